@@ -1,0 +1,66 @@
+#include "component/trace.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <string>
+
+#include "component/context.h"
+#include "platform/path.h"
+
+namespace nvrandom {
+
+namespace {
+
+bool IsBlank(const std::string& s) {
+  return s.find_first_not_of(' ') == std::string::npos;
+}
+
+std::string ComputeTraceFile(const std::string& root) {
+  // The root ends in a separator already; joining "\Norvik\PBP.txt" doubles it on purpose.
+  const std::string dir = root + path::kSeparator;
+  return path::ResolveFolder(dir, "Norvik") + path::kSeparator + "PBP.txt";
+}
+
+bool AppendLine(const std::string& file, const std::string& line, bool truncate) {
+  const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | (truncate ? O_TRUNC : O_APPEND);
+  const int fd = ::open(file.c_str(), flags, 0644);
+  if (fd < 0) return false;
+  size_t written = 0;
+  while (written < line.size()) {
+    const ssize_t n = ::write(fd, line.data() + written, line.size() - written);
+    if (n <= 0) break;
+    written += static_cast<size_t>(n);
+  }
+  ::close(fd);
+  return written == line.size();
+}
+
+}  // namespace
+
+std::string_view TraceFilePath(Context& ctx) {
+  const std::string& root = ctx.store.gstrInstallRoot;
+  if (ctx.trace_root != root || ctx.trace_file.empty()) {
+    ctx.trace_root = root;
+    ctx.trace_file = ComputeTraceFile(root);
+  }
+  return ctx.trace_file;
+}
+
+void WritePlayByPlay(Context& ctx, std::string_view label, bool newFile) {
+  if (ctx.store.PlayByPlayEnabled == 0) return;
+  if (IsBlank(ctx.store.gstrInstallRoot)) return;
+  std::string line = ctx.services.clock->Now();
+  line += " NVRANDOM - ";
+  line += label;
+  line += "\r\n";
+  const std::string file(TraceFilePath(ctx));
+  if (!AppendLine(file, line, newFile)) {
+    // The folder may have appeared, or changed case, since the path was resolved: look again once.
+    ctx.trace_file.clear();
+    const std::string again(TraceFilePath(ctx));
+    if (again != file) AppendLine(again, line, newFile);
+  }
+}
+
+}  // namespace nvrandom

@@ -1,0 +1,147 @@
+#include "component/variant.h"
+
+#include <cctype>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <string>
+
+#include "platform/runtime_error.h"
+
+namespace nvrandom {
+
+StringArray StringArray::OneDimensional(int32_t lower, int32_t upper) {
+  StringArray a;
+  a.lower_ = {lower};
+  a.upper_ = {upper};
+  a.data_.resize(upper >= lower ? static_cast<size_t>(upper - lower + 1) : 0);
+  return a;
+}
+
+StringArray StringArray::TwoDimensional(int32_t lower0, int32_t upper0, int32_t lower1,
+                                        int32_t upper1) {
+  StringArray a;
+  a.lower_ = {lower0, lower1};
+  a.upper_ = {upper0, upper1};
+  const auto extent = [](int32_t lo, int32_t hi) {
+    return hi >= lo ? static_cast<size_t>(hi - lo + 1) : size_t{0};
+  };
+  a.data_.resize(extent(lower0, upper0) * extent(lower1, upper1));
+  return a;
+}
+
+int32_t StringArray::LBound(int dimension) const {
+  if (dimension < 1 || dimension > dimensions()) throw RuntimeError(vb_error::kSubscriptOutOfRange);
+  return lower_[static_cast<size_t>(dimension - 1)];
+}
+
+int32_t StringArray::UBound(int dimension) const {
+  if (dimension < 1 || dimension > dimensions()) throw RuntimeError(vb_error::kSubscriptOutOfRange);
+  return upper_[static_cast<size_t>(dimension - 1)];
+}
+
+size_t StringArray::Offset(int32_t i) const {
+  if (dimensions() != 1 || i < lower_[0] || i > upper_[0]) {
+    throw RuntimeError(vb_error::kSubscriptOutOfRange);
+  }
+  return static_cast<size_t>(i - lower_[0]);
+}
+
+size_t StringArray::Offset(int32_t i, int32_t j) const {
+  if (dimensions() != 2 || i < lower_[0] || i > upper_[0] || j < lower_[1] || j > upper_[1]) {
+    throw RuntimeError(vb_error::kSubscriptOutOfRange);
+  }
+  const auto rows = static_cast<size_t>(upper_[0] - lower_[0] + 1);
+  return static_cast<size_t>(j - lower_[1]) * rows + static_cast<size_t>(i - lower_[0]);
+}
+
+const std::string& StringArray::at(int32_t i) const {
+  return data_[Offset(i)];
+}
+std::string& StringArray::at(int32_t i) {
+  return data_[Offset(i)];
+}
+const std::string& StringArray::at(int32_t i, int32_t j) const {
+  return data_[Offset(i, j)];
+}
+std::string& StringArray::at(int32_t i, int32_t j) {
+  return data_[Offset(i, j)];
+}
+
+namespace {
+
+// Numeric text as the platform reads it: optional blanks and sign, digits with one optional
+// decimal point, optional exponent. Anything else is a type mismatch.
+double ParseNumber(const std::string& text) {
+  size_t b = 0;
+  size_t e = text.size();
+  while (b < e && text[b] == ' ') ++b;
+  while (e > b && text[e - 1] == ' ') --e;
+  const std::string core = text.substr(b, e - b);
+  if (core.empty()) throw RuntimeError(vb_error::kTypeMismatch);
+  for (const char c : core) {
+    if (!(std::isdigit(static_cast<unsigned char>(c)) || c == '.' || c == '+' || c == '-' ||
+          c == 'e' || c == 'E')) {
+      throw RuntimeError(vb_error::kTypeMismatch);
+    }
+  }
+  char* end = nullptr;
+  const double value = std::strtod(core.c_str(), &end);
+  if (end != core.c_str() + core.size() || !std::isfinite(value)) {
+    throw RuntimeError(vb_error::kTypeMismatch);
+  }
+  return value;
+}
+
+int16_t ToInt16(double value) {
+  const double rounded = std::nearbyint(value);  // banker's rounding, as CInt does
+  if (rounded < std::numeric_limits<int16_t>::min() ||
+      rounded > std::numeric_limits<int16_t>::max()) {
+    throw RuntimeError(vb_error::kOverflow);
+  }
+  return static_cast<int16_t>(rounded);
+}
+
+bool EqualsIgnoreCase(const std::string& a, const char* b) {
+  size_t i = 0;
+  for (; i < a.size() && b[i] != '\0'; ++i) {
+    if (std::tolower(static_cast<unsigned char>(a[i])) !=
+        std::tolower(static_cast<unsigned char>(b[i])))
+      return false;
+  }
+  return i == a.size() && b[i] == '\0';
+}
+
+}  // namespace
+
+std::string ToText(const Variant& v) {
+  if (const auto* n = std::get_if<int32_t>(&v.value)) return std::to_string(*n);
+  if (const auto* s = std::get_if<std::string>(&v.value)) return *s;
+  if (v.is_empty()) return {};
+  throw RuntimeError(vb_error::kTypeMismatch);
+}
+
+int16_t ToInteger(const Variant& v) {
+  if (const auto* n = std::get_if<int32_t>(&v.value)) return ToInt16(*n);
+  if (const auto* s = std::get_if<std::string>(&v.value)) return ToInt16(ParseNumber(*s));
+  if (v.is_empty()) return 0;
+  throw RuntimeError(vb_error::kTypeMismatch);
+}
+
+int16_t ToFlag(const Variant& v) {
+  if (const auto* n = std::get_if<int32_t>(&v.value)) return *n != 0 ? -1 : 0;
+  if (const auto* s = std::get_if<std::string>(&v.value)) {
+    if (EqualsIgnoreCase(*s, "True")) return -1;
+    if (EqualsIgnoreCase(*s, "False")) return 0;
+    return ParseNumber(*s) != 0 ? -1 : 0;
+  }
+  if (v.is_empty()) return 0;
+  throw RuntimeError(vb_error::kTypeMismatch);
+}
+
+const StringArray& ToArray(const Variant& v) {
+  if (const auto* a = std::get_if<StringArray>(&v.value)) return *a;
+  throw RuntimeError(vb_error::kTypeMismatch);
+}
+
+}  // namespace nvrandom

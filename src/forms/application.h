@@ -1,0 +1,5 @@
+#pragma once
+
+namespace nvrandom::forms {
+class Application {};
+}  // namespace nvrandom::forms

@@ -1,0 +1,50 @@
+#include "platform/headless/headless_services.h"
+
+#include <memory>
+
+#include "platform/memory_clipboard.h"
+#include "platform/re2_regex.h"
+
+namespace nvrandom::headless {
+
+int RecordingMessageBox::Show(std::string_view text, int style, std::string_view caption) {
+  int answer = DefaultAnswer(style);
+  if (!answers_.empty()) {
+    answer = answers_.front();
+    answers_.pop_front();
+  }
+  shown.push_back(ShownBox{std::string(text), std::string(caption), style, answer});
+  if (on_show) on_show(shown.back());
+  return answer;
+}
+
+int32_t RecordingShell::Execute(std::string_view verb, std::string_view file, int show_mode) {
+  calls.push_back(ShellCall{std::string(verb), std::string(file), show_mode});
+  return result;
+}
+
+void RecordingHelp::ShowTopic(std::string_view help_path, uint32_t topic) {
+  calls.push_back(HelpCall{std::string(help_path), topic});
+}
+
+HeadlessServices MakeHeadlessServices(const std::string& windows_dir, const std::string& now) {
+  HeadlessServices h;
+  auto box = std::make_unique<RecordingMessageBox>();
+  auto shell = std::make_unique<RecordingShell>();
+  auto help = std::make_unique<RecordingHelp>();
+  auto clock = std::make_unique<FixedClock>(now);
+  h.message_box = box.get();
+  h.shell = shell.get();
+  h.help = help.get();
+  h.clock = clock.get();
+  h.services.message_box = std::move(box);
+  h.services.shell = std::move(shell);
+  h.services.help = std::move(help);
+  h.services.clock = std::move(clock);
+  h.services.clipboard = std::make_unique<MemoryClipboard>();
+  h.services.directories = std::make_unique<FixedDirectories>(windows_dir, "/usr/lib");
+  h.services.regex = std::make_unique<Re2Regex>();
+  return h;
+}
+
+}  // namespace nvrandom::headless

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/services.h"
+
+namespace nvrandom::headless {
+
+// A message box as a test or a scenario sees it.
+struct ShownBox {
+  std::string text;
+  std::string caption;
+  int style = 0;
+  int answer = 0;
+};
+
+// Records every box and answers from a queue of replies; an unanswered box takes its default.
+class RecordingMessageBox final : public MessageBoxService {
+ public:
+  int Show(std::string_view text, int style, std::string_view caption) override;
+  void QueueAnswer(int answer) { answers_.push_back(answer); }
+  std::vector<ShownBox> shown;
+  // Told of every box as it is shown (the runner's transcript).
+  std::function<void(const ShownBox&)> on_show;
+
+ private:
+  std::deque<int> answers_;
+};
+
+struct ShellCall {
+  std::string verb;
+  std::string file;
+  int show_mode = 0;
+};
+
+// Records what would be opened and answers with `result` (above 32: success).
+class RecordingShell final : public ShellService {
+ public:
+  int32_t Execute(std::string_view verb, std::string_view file, int show_mode) override;
+  std::vector<ShellCall> calls;
+  int32_t result = 42;
+};
+
+struct HelpCall {
+  std::string help_path;
+  uint32_t topic = 0;
+};
+
+class RecordingHelp final : public HelpService {
+ public:
+  void ShowTopic(std::string_view help_path, uint32_t topic) override;
+  std::vector<HelpCall> calls;
+};
+
+class FixedClock final : public Clock {
+ public:
+  explicit FixedClock(std::string now) : now_(std::move(now)) {}
+  std::string Now() override { return now_; }
+  void Set(std::string now) { now_ = std::move(now); }
+
+ private:
+  std::string now_;
+};
+
+class FixedDirectories final : public DirectoryService {
+ public:
+  FixedDirectories(std::string windows, std::string system)
+      : windows_(std::move(windows)), system_(std::move(system)) {}
+  std::string WindowsDirectory() override { return windows_; }
+  std::string SystemDirectory() override { return system_; }
+
+ private:
+  std::string windows_;
+  std::string system_;
+};
+
+// The services a headless run uses: recording boxes, shell and help, an in-memory clipboard, a
+// fixed clock, the given folders; the real regex engine and the built-in verifier. The returned
+// pointers stay owned by the Services.
+struct HeadlessServices {
+  Services services;
+  RecordingMessageBox* message_box = nullptr;
+  RecordingShell* shell = nullptr;
+  RecordingHelp* help = nullptr;
+  FixedClock* clock = nullptr;
+};
+HeadlessServices MakeHeadlessServices(const std::string& windows_dir = "/tmp/nvrandom-windows",
+                                      const std::string& now = "15/11/2026 1:58:04 PM");
+
+}  // namespace nvrandom::headless

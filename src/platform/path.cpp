@@ -1,0 +1,41 @@
+#include "platform/path.h"
+
+#include <strings.h>
+#include <sys/stat.h>
+
+#include <dirent.h>
+#include <string>
+
+namespace nvrandom::path {
+
+std::string Join(std::string_view root, std::string_view name) {
+  std::string joined(root);
+  if (!joined.empty() && joined.back() != kSeparator) joined += kSeparator;
+  joined += name;
+  return joined;
+}
+
+std::string ResolveFolder(const std::string& dir, std::string_view name) {
+  std::string exact = dir + std::string(name);
+  struct stat st {};
+  if (::stat(exact.c_str(), &st) == 0) return exact;
+  DIR* d = ::opendir(dir.empty() ? "." : dir.c_str());
+  if (d == nullptr) return exact;
+  std::string found;
+  const std::string wanted(name);
+  while (const dirent* entry = ::readdir(d)) {
+    if (::strcasecmp(entry->d_name, wanted.c_str()) == 0) {
+      found = dir + entry->d_name;
+      break;
+    }
+  }
+  ::closedir(d);
+  return found.empty() ? exact : found;
+}
+
+bool FileExists(const std::string& file) {
+  struct stat st {};
+  return ::stat(file.c_str(), &st) == 0;
+}
+
+}  // namespace nvrandom::path

@@ -1,0 +1,42 @@
+#include "platform/runtime_error.h"
+
+#include <string>
+
+namespace nvrandom {
+
+std::string DefaultErrorDescription(int32_t number) {
+  switch (number) {
+    case vb_error::kInvalidProcedureCall:
+      return "Invalid procedure call or argument";
+    case vb_error::kOverflow:
+      return "Overflow";
+    case vb_error::kOutOfMemory:
+      return "Out of memory";
+    case vb_error::kSubscriptOutOfRange:
+      return "Subscript out of range";
+    case vb_error::kTypeMismatch:
+      return "Type mismatch";
+    case vb_error::kFileNotFound:
+      return "File not found";
+    case vb_error::kPathFileAccess:
+      return "Path/File access error";
+    case vb_error::kPathNotFound:
+      return "Path not found";
+    case vb_error::kCannotCreateObject:
+      return "ActiveX component can't create object";
+    case vb_error::kObjectDoesNotSupport:
+      return "Object doesn't support this property or method";
+    default:
+      return "Application-defined or object-defined error";
+  }
+}
+
+RuntimeError::RuntimeError(int32_t number)
+    : RuntimeError(number, DefaultErrorDescription(number)) {}
+
+RuntimeError::RuntimeError(int32_t number, const std::string& description)
+    : std::runtime_error(description + " (Error " + std::to_string(number) + ")"),
+      number_(number),
+      description_(description) {}
+
+}  // namespace nvrandom

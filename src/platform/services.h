@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/clipboard.h"
+#include "platform/clock.h"
+#include "platform/directories.h"
+#include "platform/message_box.h"
+#include "platform/regex.h"
+#include "platform/shell.h"
+
+namespace nvrandom {
+
+class AccountVerifierFactory;
+class BankCheckLibrary;
+
+// Everything the core asks of the outside world. Each member is a small interface with a real
+// implementation per platform and a recording one for tests and the scenario runner.
+struct Services {
+  std::unique_ptr<MessageBoxService> message_box;
+  std::unique_ptr<ShellService> shell;
+  std::unique_ptr<HelpService> help;
+  std::unique_ptr<ClipboardService> clipboard;
+  std::unique_ptr<DirectoryService> directories;
+  std::unique_ptr<Clock> clock;
+  std::unique_ptr<RegexService> regex;
+  std::shared_ptr<AccountVerifierFactory> verifiers;
+  std::shared_ptr<BankCheckLibrary> bank_checks;
+};
+
+// The POSIX implementations (message boxes answer with their default button: a real user
+// interface replaces that service with its own).
+Services MakePosixServices();
+
+}  // namespace nvrandom
