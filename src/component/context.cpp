@@ -5,7 +5,8 @@
 namespace nvrandom {
 
 Context::Context(Services services_in)
-    : services(std::move(services_in)), forms_(std::make_unique<forms::Application>()) {}
+    : services(std::move(services_in)),
+      forms_(std::make_unique<forms::Application>(*services.clipboard)) {}
 
 Context::~Context() = default;
 

@@ -1,0 +1,134 @@
+#include "forms/user_input.h"
+
+#include <string>
+
+#include "forms/application.h"
+#include "forms/control.h"
+#include "forms/form.h"
+#include "forms/keystroke.h"
+#include "forms/utf8_text.h"
+#include "platform/clipboard.h"
+
+namespace nvrandom::forms::user {
+
+namespace {
+bool Usable(const Control& control) {
+  const Form& form = control.form();
+  if (form.app().ActiveForm() != &form) return false;
+  for (const Control* c = &control; c != nullptr; c = c->Container()) {
+    if (!c->Visible() || !c->Enabled()) return false;
+  }
+  return true;
+}
+
+bool FocusWithin(Control& control) {
+  if (!control.CanFocus()) return Usable(control);
+  if (!Application::Available(control)) {
+    control.form().app().SetFocus(control);  // reported to observers as refused
+    return false;
+  }
+  return control.form().app().SetFocus(control);
+}
+}  // namespace
+
+bool Focus(Control& control) {
+  Application::InputScope scope(control.form().app());
+  return FocusWithin(control);
+}
+
+bool Type(Control& control, std::string_view text) {
+  Application::InputScope scope(control.form().app());
+  if (!FocusWithin(control)) return false;
+  for (const char32_t c : DecodeKeys(text)) {
+    if (!control.form().IsLoaded()) break;
+    Keystroke(control, c);
+  }
+  return true;
+}
+
+bool Key(Control& control, int16_t key_ascii) {
+  Application::InputScope scope(control.form().app());
+  if (!FocusWithin(control)) return false;
+  Keystroke(control, static_cast<char32_t>(static_cast<uint16_t>(key_ascii)));
+  return true;
+}
+
+bool KeyDown(Control& control, int16_t key_code, int16_t shift) {
+  Application::InputScope scope(control.form().app());
+  if (!FocusWithin(control)) return false;
+  KeyDownOnly(control, key_code, shift);
+  return true;
+}
+
+bool MouseDown(Control& control, int16_t button) {
+  Application::InputScope scope(control.form().app());
+  if (!Usable(control)) return false;
+  if (control.events.MouseDown) control.events.MouseDown(button, 0, 0.0F, 0.0F);
+  return true;
+}
+
+bool Paste(Control& control, std::string_view text) {
+  Application& app = control.form().app();
+  Application::InputScope scope(app);
+  if (!FocusWithin(control)) return false;
+  app.clipboard().SetText(std::string(text));
+  Keystroke(control, static_cast<char32_t>(keys::kPaste));
+  return true;
+}
+
+bool ClearText(Control& control) {
+  Application::InputScope scope(control.form().app());
+  if (!FocusWithin(control)) return false;
+  control.SetSelStart(0);
+  control.SetSelLength(static_cast<int>(utf8::Length(control.Text())));
+  control.ReplaceSelection("");
+  return true;
+}
+
+bool Click(Control& control) {
+  Application::InputScope scope(control.form().app());
+  if (!FocusWithin(control)) return false;
+  switch (control.kind()) {
+    case ControlKind::kCheckBox:
+      control.SetValue(control.Value() == 1 ? 0 : 1);
+      break;
+    case ControlKind::kOptionButton:
+      if (control.Value() != 0) {
+        if (control.events.Click) control.events.Click();
+      } else {
+        control.SetValue(-1);
+      }
+      break;
+    default:
+      if (control.events.Click) control.events.Click();
+      break;
+  }
+  return true;
+}
+
+bool Pick(Control& control, std::string_view value) {
+  Application::InputScope scope(control.form().app());
+  if (!FocusWithin(control)) return false;
+  const bool by_code = control.kind() == ControlKind::kDataList;
+  for (int i = 0; i < control.ListCount(); ++i) {
+    const auto& row = control.Row(i);
+    const auto column = static_cast<size_t>(by_code ? control.BoundColumn() : 0);
+    if (column < row.size() && row[column] == value) {
+      control.SetListIndex(i);
+      return true;
+    }
+  }
+  return false;
+}
+
+void CloseBox(Form& form) {
+  Application::InputScope scope(form.app());
+  form.Unload(unload_mode::kCloseBox);
+}
+
+void Shutdown(Form& form) {
+  Application::InputScope scope(form.app());
+  form.Unload(unload_mode::kSystemShutdown);
+}
+
+}  // namespace nvrandom::forms::user

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace nvrandom::forms::utf8 {
+
+// Positions in the form runtime (SelStart, MaxLength) count characters, not bytes. Texts are
+// UTF-8; a byte that does not start a valid sequence counts as one character of its own.
+
+size_t Length(std::string_view text);
+// Byte offset of character `index` (the text's size when `index` is at or past the end).
+size_t Offset(std::string_view text, size_t index);
+// Characters [start, start + count) of `text`, clipped to the text.
+std::string Mid(std::string_view text, size_t start, size_t count);
+// The UTF-8 form of one code point.
+std::string EncodeCodePoint(char32_t cp);
+
+}  // namespace nvrandom::forms::utf8
