@@ -111,6 +111,13 @@ void Application::DeliverSentKeys() {
   delivering_ = false;
 }
 
+std::shared_ptr<Form>& Application::DefaultInstance(std::string_view form_name) {
+  auto it = default_instances_.find(form_name);
+  if (it == default_instances_.end())
+    it = default_instances_.emplace(std::string(form_name), nullptr).first;
+  return it->second;
+}
+
 void Application::AddObserver(FormObserver* observer) {
   observers_.push_back(observer);
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -67,6 +68,9 @@ class Application {
   // Queues keystrokes for the focused control, delivered once the current event has finished.
   void SendKeys(std::string_view keys);
 
+  // The slot of a form class's one default instance, kept for the application's lifetime.
+  std::shared_ptr<Form>& DefaultInstance(std::string_view form_name);
+
   void SetModalDriver(ModalDriver* driver) { driver_ = driver; }
   void AddObserver(FormObserver* observer);
   void RemoveObserver(FormObserver* observer);
@@ -100,7 +104,9 @@ class Application {
 
   ClipboardService& clipboard_;
   std::vector<std::shared_ptr<Form>> loaded_;
-  std::vector<Form*> shown_;  // z-order, front-most last
+  std::vector<Form*> shown_;
+  std::map<std::string, std::shared_ptr<Form>, std::less<>>
+      default_instances_;  // z-order, front-most last
   std::vector<FormObserver*> observers_;
   ModalDriver* driver_ = nullptr;
   std::deque<char32_t> sent_keys_;

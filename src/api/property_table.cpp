@@ -1,0 +1,168 @@
+#include "api/property_table.h"
+
+#include <array>
+#include <string>
+#include <unordered_map>
+
+#include "component/context.h"
+#include "component/trace.h"
+#include "platform/runtime_error.h"
+
+namespace nvrandom {
+
+namespace {
+
+constexpr bool kLetGet = true;
+constexpr bool kLet = false;
+constexpr bool kTraced = true;
+constexpr bool kUntraced = false;
+
+constexpr std::array<PropertyInfo, kPropertyCount> kProperties = {{
+#define NVRANDOM_PROPERTY_INFO(name, type, access, trace) \
+  {PropertyId::name, #name, PropertyType::k##type, k##access, k##trace},
+    NVRANDOM_CLSRANDOM_PROPERTIES(NVRANDOM_PROPERTY_INFO)
+#undef NVRANDOM_PROPERTY_INFO
+}};
+
+// The country-list selectors are stored under (and traced with) their globals' names.
+std::string_view LabelName(PropertyId id) {
+  switch (id) {
+    case PropertyId::CountryListAll:
+      return "gstrCountryListAll";
+    case PropertyId::CountryListPartial:
+      return "gstrCountryListPartial";
+    default:
+      return Property(id).name;
+  }
+}
+
+void TraceProcedure(Context& ctx, PropertyId id, std::string_view verb) {
+  if (ctx.store.PlayByPlayEnabled == 0 || !Property(id).traced) return;
+  std::string label = "ClsRandom - ";
+  label += verb;
+  label += LabelName(id);
+  WritePlayByPlay(ctx, label);
+}
+
+// Row i of the table comes from elements (0, i) and (1, i), for i up to the upper bound of the
+// second dimension minus one: the last column passed is not copied. Rows past the table raise
+// error 9 after the rows before them have been copied.
+void LetProvAreaCode(ComponentStore& store, const Variant& value) {
+  const StringArray& array = ToArray(value);
+  const int32_t upper = array.UBound(2);
+  for (int32_t i = 0; i < upper; ++i) {
+    if (i >= ComponentStore::kProvAreaCodeRows) throw RuntimeError(vb_error::kSubscriptOutOfRange);
+    store.Prov_areacode[static_cast<size_t>(i)] = {array.at(0, i), array.at(1, i)};
+  }
+}
+
+int16_t* IntegerMember(ComponentStore& s, PropertyId id) {
+  switch (id) {
+    case PropertyId::FormStyle:
+      return &s.FormStyle;
+    case PropertyId::PlayByPlayEnabled:
+      return &s.PlayByPlayEnabled;
+    case PropertyId::Add:
+      return &s.Add;
+    case PropertyId::UserBankAcctPermission:
+      return &s.UserBankAcctPermission;
+    case PropertyId::InternationalPayment:
+      return &s.InternationalPayment;
+    case PropertyId::BillerPaid:
+      return &s.BillerPaid;
+    case PropertyId::UseAcctvfy:
+      return &s.UseAcctvfy;
+    default:
+      return nullptr;
+  }
+}
+
+std::string* StringMember(ComponentStore& s, PropertyId id) {
+  switch (id) {
+    case PropertyId::CountryListAll:
+      return &s.gstrCountryListAll;
+    case PropertyId::CountryListPartial:
+      return &s.gstrCountryListPartial;
+#define NVRANDOM_STRING_MEMBER_String(name) \
+  case PropertyId::name:                    \
+    return &s.name;
+#define NVRANDOM_STRING_MEMBER_Integer(name)
+#define NVRANDOM_STRING_MEMBER_Flag(name)
+#define NVRANDOM_STRING_MEMBER_Variant(name)
+#define NVRANDOM_STRING_MEMBER_Global(name)
+#define NVRANDOM_STRING_MEMBER(name, type, access, trace) NVRANDOM_STRING_MEMBER_##type(name)
+      NVRANDOM_CLSRANDOM_PROPERTIES(NVRANDOM_STRING_MEMBER)
+#undef NVRANDOM_STRING_MEMBER
+#undef NVRANDOM_STRING_MEMBER_String
+#undef NVRANDOM_STRING_MEMBER_Integer
+#undef NVRANDOM_STRING_MEMBER_Flag
+#undef NVRANDOM_STRING_MEMBER_Variant
+#undef NVRANDOM_STRING_MEMBER_Global
+    default:
+      return nullptr;
+  }
+}
+
+}  // namespace
+
+const PropertyInfo& Property(PropertyId id) {
+  return kProperties[static_cast<size_t>(id)];
+}
+
+const PropertyInfo* FindProperty(std::string_view name) {
+  static const auto* const kByName = [] {
+    auto* map = new std::unordered_map<std::string_view, const PropertyInfo*>();
+    for (const PropertyInfo& p : kProperties) map->emplace(p.name, &p);
+    return map;
+  }();
+  const auto it = kByName->find(name);
+  return it == kByName->end() ? nullptr : it->second;
+}
+
+void LetProperty(Context& ctx, PropertyId id, const Variant& value) {
+  if (id != PropertyId::PlayByPlayEnabled) TraceProcedure(ctx, id, "Let ");
+  ComponentStore& s = ctx.store;
+  switch (id) {
+    case PropertyId::DLLPath:
+      s.DLLPath = ToText(value);
+      s.gstrInstallRoot = InstallRootOf(s.DLLPath);
+      return;
+    case PropertyId::Prov_areacode:
+      LetProvAreaCode(s, value);
+      return;
+    case PropertyId::NVMemberType:
+      s.NVMemberType = ToText(value);
+      return;
+    case PropertyId::IPBillerNameAcctExist:
+      s.IPBillerNameAcctExist = ToFlag(value);
+      return;
+    case PropertyId::IPCurrencyList:
+      s.IPCurrencyList = ToArray(value);
+      return;
+    case PropertyId::IPBillerCurrencies:
+      s.IPBillerCurrencies = ToArray(value);
+      return;
+    default:
+      break;
+  }
+  if (int16_t* member = IntegerMember(s, id)) {
+    *member = ToInteger(value);
+  } else if (std::string* text = StringMember(s, id)) {
+    *text = ToText(value);
+  }
+}
+
+Variant GetProperty(Context& ctx, PropertyId id) {
+  const PropertyInfo& info = Property(id);
+  if (!info.can_get) {
+    throw RuntimeError(451,
+                       "Property let procedure not defined and property get procedure did not "
+                       "return an object");
+  }
+  TraceProcedure(ctx, id, "Get ");
+  if (const int16_t* member = IntegerMember(ctx.store, id)) return Variant(int32_t{*member});
+  if (const std::string* text = StringMember(ctx.store, id)) return Variant(*text);
+  return Variant();
+}
+
+}  // namespace nvrandom

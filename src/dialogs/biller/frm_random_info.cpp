@@ -1,0 +1,130 @@
+#include "dialogs/biller/frm_random_info.h"
+
+#include <string>
+
+#include "component/context.h"
+#include "component/trace.h"
+#include "dialogs/biller/random_info_design.h"
+#include "dialogs/biller/random_info_events.h"
+#include "dialogs/biller/random_info_texts.h"
+#include "dialogs/support/frm_cheque.h"
+#include "forms/application.h"
+#include "validation/random.h"
+#include "validation/text.h"
+
+namespace nvrandom {
+
+namespace {
+// Close result of a dialog that was cancelled, or accepted without a change.
+constexpr int32_t kClosedWithoutChange = 50000;
+}  // namespace
+
+std::shared_ptr<frmRandomInfo> frmRandomInfo::Create(Context& ctx, RandomInfoEvents* events) {
+  return std::make_shared<frmRandomInfo>(ctx, events);
+}
+
+frmRandomInfo::frmRandomInfo(Context& ctx, RandomInfoEvents* events)
+    : forms::Form(ctx.forms(), RandomInfoForm(), RandomInfoControls()), ctx_(ctx), events_(events) {
+  Find("cmd_cancel")->events.Click = [this] { cmd_cancel_Click(); };
+  Find("cmd_help")->events.Click = [this] { cmd_help_Click(); };
+  Find("cmdCheque")->events.Click = [this] { cmdCheque_Click(); };
+  Find("ctHyperLink1")->events.Click = [this] { ctHyperLink1_Click(); };
+  for (int i = 0; Find("imgHelpCSFTInfo", i) != nullptr; ++i) {
+    Find("imgHelpCSFTInfo", i)->events.Click = [this, i] { imgHelpCSFTInfo_Click(i); };
+  }
+}
+
+void frmRandomInfo::LockForImport(bool has_foreign_bank) {
+  // The address block holds the biller's fields, Frame1 everything else of the biller including
+  // the foreign bank button. With foreign bank details Frame1 stays enabled for that button, so
+  // the bank account block is locked on its own.
+  Ctl("Frame3").SetEnabled(false);
+  if (has_foreign_bank) {
+    Ctl("fraBankAcctInfo").SetEnabled(false);
+    Ctl("fraBankInfo").SetEnabled(false);
+    Ctl("cmdFXBankingInfo").SetCaption(random_info_text::kViewBankingInformation);
+  } else {
+    Ctl("Frame1").SetEnabled(false);
+  }
+}
+
+void frmRandomInfo::Trace(std::string_view procedure) {
+  if (ctx_.store.PlayByPlayEnabled == 0) return;
+  std::string label = random_info_text::kLabelPrefix;
+  label += procedure;
+  WritePlayByPlay(ctx_, label);
+}
+
+void frmRandomInfo::RaiseCancel() {
+  if (events_ != nullptr) events_->Cancel();
+}
+
+void frmRandomInfo::cmd_cancel_Click() {
+  Trace("cmd_cancel_Click");
+  ctx_.store.closeResult = kClosedWithoutChange;
+  Unload(forms::unload_mode::kCode);
+  RaiseCancel();
+}
+
+void frmRandomInfo::Form_QueryUnload(int16_t& Cancel, int16_t UnloadMode) {
+  (void)Cancel;
+  Trace("Form_QueryUnload");
+  if (UnloadMode == forms::unload_mode::kCode) return;
+  ctx_.store.closeResult = kClosedWithoutChange;
+  // Pending window events have nothing left to do here: the sent keys wait for the input that
+  // is under way, and that input is this close.
+  Unload(forms::unload_mode::kCode);
+  RaiseCancel();
+}
+
+void frmRandomInfo::Form_KeyPress(int16_t& KeyAscii) {
+  Trace("Form_KeyPress");
+  // Enter sends the text "9" to the focused control and is itself passed on: kept as the
+  // dialog has always behaved.
+  if (KeyAscii == 13) app().SendKeys(std::to_string(9));
+}
+
+void frmRandomInfo::ShowHelpTopic(unsigned topic) {
+  ctx_.services.help->ShowTopic(ctx_.store.gstrInstallRoot + random_info_text::kHelpFile, topic);
+}
+
+void frmRandomInfo::cmd_help_Click() {
+  Trace("cmd_help_Click");
+  ShowHelpTopic(random_info_text::kHelpTopicBiller);
+}
+
+void frmRandomInfo::imgHelpCSFTInfo_Click(int Index) {
+  Trace("imgHelpCSFTInfo_Click");
+  switch (Index) {
+    case 0:
+      ShowHelpTopic(506000012);
+      break;
+    case 1:
+    case 2:
+      ShowHelpTopic(506000014);
+      break;
+    case 3:
+      ShowHelpTopic(506000013);
+      break;
+    case 4:
+      ShowHelpTopic(506000018);
+      break;
+    case 5:
+      ShowHelpTopic(506000019);
+      break;
+    default:
+      break;
+  }
+}
+
+void frmRandomInfo::cmdCheque_Click() {
+  Trace("cmdCheque_Click");
+  frmCheque::Instance(ctx_).Show(true);
+}
+
+void frmRandomInfo::ctHyperLink1_Click() {
+  Trace("ctHyperLink1_Click");
+  Random(ctx_).OpenBrowser(validation::TrimBlanks(ctx_.store.USBillPaymentURL));
+}
+
+}  // namespace nvrandom
