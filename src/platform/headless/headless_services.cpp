@@ -4,6 +4,8 @@
 
 #include "platform/memory_clipboard.h"
 #include "platform/re2_regex.h"
+#include "verifier/builtin_account_verifier.h"
+#include "verifier/builtin_bank_check_library.h"
 
 namespace nvrandom::headless {
 
@@ -44,6 +46,8 @@ HeadlessServices MakeHeadlessServices(const std::string& windows_dir, const std:
   h.services.clipboard = std::make_unique<MemoryClipboard>();
   h.services.directories = std::make_unique<FixedDirectories>(windows_dir, "/usr/lib");
   h.services.regex = std::make_unique<Re2Regex>();
+  h.services.verifiers = std::make_shared<verifier::BuiltinAccountVerifierFactory>();
+  h.services.bank_checks = std::make_shared<verifier::BuiltinBankCheckLibrary>();
   return h;
 }
 

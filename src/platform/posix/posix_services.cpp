@@ -12,6 +12,8 @@
 #include "platform/path.h"
 #include "platform/re2_regex.h"
 #include "platform/services.h"
+#include "verifier/builtin_account_verifier.h"
+#include "verifier/builtin_bank_check_library.h"
 
 extern char** environ;
 
@@ -105,6 +107,8 @@ Services MakePosixServices() {
   s.directories = std::make_unique<XdgDirectories>();
   s.clock = std::make_unique<LocalClock>();
   s.regex = std::make_unique<Re2Regex>();
+  s.verifiers = std::make_shared<verifier::BuiltinAccountVerifierFactory>();
+  s.bank_checks = std::make_shared<verifier::BuiltinBankCheckLibrary>();
   return s;
 }
 

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace nvrandom::validation {
+
+inline constexpr std::string_view kBlankInAccountMessage =
+    "Please do not enter any blank characters in the account number.";
+inline constexpr std::string_view kShortAccountMessage =
+    "Account number should not be less than four characters.";
+inline constexpr std::string_view kInvalidAccountCharactersMessage =
+    "The account entered contains invalid characters.  Valid accounts uppercase alpha and/or "
+    "numeric characters.";
+
+// What the local checks find wrong with an account before the verifier is asked, in the order
+// they look: a blank anywhere, fewer than four characters, a character other than 0-9 and A-Z.
+enum class AccountFault { kNone, kContainsBlank, kTooShort, kInvalidCharacters };
+AccountFault FindAccountFault(std::string_view account);
+
+// The bank id as the account verification passes it: a trimmed id of seven characters loses its
+// last one, then the id is brought to six characters (PadLeft).
+std::string AccountCheckBankId(std::string_view bank_id);
+
+// The bank id under which business numbers are verified.
+inline constexpr std::string_view kBusinessNumberBankId = "001003";
+
+// The account value under which a business number is verified: its first nine characters and
+// "RT0001"; nothing when the number is refused before that (empty, shorter than nine characters,
+// first nine not numeric, first eight a made-up number such as 12345678 or 11111111).
+std::optional<std::string> BusinessNumberAccount(std::string_view number);
+
+}  // namespace nvrandom::validation

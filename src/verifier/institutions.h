@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace nvrandom::verifier {
+
+// How the accounts of an institution are formed.
+enum class AccountRule : uint8_t {
+  kDigits,           // an all-digit account whose length is one of `account_lengths`
+  kBusinessProgram,  // a business number, program identifier and reference: 123456782RT0001
+};
+
+// Account lengths as a set: bit n stands for n digits.
+using LengthSet = uint32_t;
+constexpr LengthSet Lengths(int n) {
+  return LengthSet{1} << n;
+}
+constexpr LengthSet LengthRange(int from, int to) {
+  LengthSet set = 0;
+  for (int n = from; n <= to; ++n) set |= Lengths(n);
+  return set;
+}
+// What an account may look like where nothing narrower is known.
+inline constexpr LengthSet kAnyAccountLength = LengthRange(7, 12);
+
+struct Institution {
+  std::string_view number;  // 3 digits; the business-number registry has 6
+  std::string_view name;
+  AccountRule rule;
+  LengthSet account_lengths;
+};
+
+// The institutions the built-in verifier knows, ordered by number.
+std::span<const Institution> KnownInstitutions();
+
+// The institution with this number, or null.
+const Institution* FindInstitution(std::string_view number);
+
+// The pseudo-institution under which business numbers are verified as accounts.
+inline constexpr std::string_view kBusinessNumberRegistry = "001003";
+
+}  // namespace nvrandom::verifier
