@@ -1,0 +1,324 @@
+// The expectations of a scenario: what the dialogs, the host and the files show.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "component/context.h"
+#include "forms/form.h"
+#include "forms/utf8_text.h"
+#include "installation_tree.h"
+#include "platform/runtime_error.h"
+#include "scenario_runner.h"
+#include "scenario_values.h"
+
+namespace nvrandom::scenario {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::optional<bool> ParseBool(const std::string& word) {
+  if (word == "true") return true;
+  if (word == "false") return false;
+  return std::nullopt;
+}
+
+std::string Describe(bool value) {
+  return value ? "true" : "false";
+}
+
+// The text a person reads off a control: its caption where it has one, the code of a data
+// list's current row, the text of a text or combo box.
+std::string ShownText(const forms::Control& c) {
+  switch (c.kind()) {
+    case forms::ControlKind::kTextBox:
+    case forms::ControlKind::kComboBox:
+      return c.Text();
+    case forms::ControlKind::kDataList:
+      return c.ListIndex() >= 0 ? c.BoundText() : c.Text();
+    default:
+      return c.Caption();
+  }
+}
+
+std::string ReadWhole(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+// Files under `root` whose name is `name` (ignoring case, as the platform's file system does).
+std::vector<fs::path> FilesNamed(const std::string& root, std::string_view name) {
+  std::vector<fs::path> found;
+  std::error_code ec;
+  for (auto it = fs::recursive_directory_iterator(root, ec); !ec && it != fs::end(it);
+       it.increment(ec)) {
+    const std::string file = it->path().filename().string();
+    if (file.size() != name.size() || !it->is_regular_file(ec)) continue;
+    bool same = true;
+    for (size_t i = 0; i < file.size() && same; ++i) {
+      same = std::tolower(static_cast<unsigned char>(file[i])) ==
+             std::tolower(static_cast<unsigned char>(name[i]));
+    }
+    if (same) found.push_back(it->path());
+  }
+  return found;
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+  std::vector<std::string> lines;
+  size_t start = 0;
+  while (start <= text.size()) {
+    size_t end = text.find('\n', start);
+    if (end == std::string::npos) end = text.size();
+    std::string line = text.substr(start, end - start);
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (!line.empty()) lines.push_back(line);
+    start = end + 1;
+  }
+  return lines;
+}
+
+bool EndsWith(const std::string& s, const std::string& tail) {
+  return s.size() >= tail.size() && s.compare(s.size() - tail.size(), tail.size(), tail) == 0;
+}
+
+}  // namespace
+
+void ScenarioRun::ExecuteExpect(const std::vector<Word>& w) {
+  NeedWords(w, 2);
+  const std::string& what = w[1].text;
+  const auto& boxes = services_.message_box->shown;
+  if (what == "msg" || what == "msghas") {
+    NeedWords(w, 3);
+    if (w.size() == 4 || (w.size() == 5 && w[3].text != "caption")) {
+      throw MalformedLine("expect " + what + " TEXT [caption TEXT]");
+    }
+    const std::string text = Text(w[2]);
+    if (boxes_matched_ >= boxes.size()) {
+      Fail("expected message box " + Quote(text) + ", got none");
+      return;
+    }
+    const headless::ShownBox& box = boxes[boxes_matched_++];
+    const bool ok = what == "msg" ? box.text == text : box.text.find(text) != std::string::npos;
+    if (!ok) Fail("expected message box " + Quote(text) + ", got " + Quote(box.text));
+    if (w.size() == 5 && box.caption != Text(w[4])) {
+      Fail("expected caption " + Quote(Text(w[4])) + ", got " + Quote(box.caption));
+    }
+  } else if (what == "nomsg") {
+    if (boxes_matched_ < boxes.size()) {
+      Fail("expected no message box, got " + Quote(boxes[boxes_matched_].text));
+      boxes_matched_ = boxes.size();
+    }
+  } else if (what == "event") {
+    NeedWords(w, 3);
+    std::optional<long long> arg;
+    if (w.size() >= 4) {
+      arg = ParseInteger(w[3].text);
+      if (!arg) throw MalformedLine("an event argument is a number");
+    }
+    for (HostEvent& e : events_) {
+      if (e.matched || e.name != w[2].text) continue;
+      e.matched = true;
+      if (arg && (!e.arg || *e.arg != *arg)) {
+        Fail("expected event " + w[2].text + " " + w[3].text + ", got " + e.name +
+             (e.arg ? " " + std::to_string(*e.arg) : ""));
+      }
+      return;
+    }
+    Fail("expected event " + w[2].text + ", got none");
+  } else if (what == "noevent") {
+    for (HostEvent& e : events_) {
+      if (e.matched || (w.size() >= 3 && e.name != w[2].text)) continue;
+      Fail("expected no event" + (w.size() >= 3 ? " " + w[2].text : std::string()) + ", got " +
+           e.name);
+      e.matched = true;
+    }
+  } else if (what == "result") {
+    NeedWords(w, 3);
+    const auto want = ParseInteger(w[2].text);
+    if (!want) throw MalformedLine("expect result needs a number");
+    if (!last_result_) {
+      Fail("expected result " + w[2].text + ", got no show");
+    } else if (*last_result_ != *want) {
+      Fail("expected result " + w[2].text + ", got " + std::to_string(*last_result_));
+    }
+  } else if (what == "value") {
+    NeedWords(w, 3);
+    if (!checked_) {
+      Fail("expected value, got no check");
+    } else if (!ValueMatches(last_value_, w[2], tree_.root(), tree_.install())) {
+      Fail("expected value " + (w[2].quoted ? Quote(Text(w[2])) : w[2].text) + ", got " +
+           FormatValue(last_value_));
+    }
+  } else if (what == "message" || what == "messagehas") {
+    NeedWords(w, 3);
+    const std::string want = Text(w[2]);
+    const std::string got = last_message_.value_or("");
+    const bool ok = what == "message" ? got == want : got.find(want) != std::string::npos;
+    if (!ok) Fail("expected message " + Quote(want) + ", got " + Quote(got));
+  } else if (what == "prop") {
+    NeedWords(w, 4);
+    try {
+      const Variant got = instances_.back()->Get(w[2].text);
+      if (!ValueMatches(got, w[3], tree_.root(), tree_.install())) {
+        Fail("expected " + w[2].text + " = " + (w[3].quoted ? Quote(Text(w[3])) : w[3].text) +
+             ", got " + FormatValue(got));
+      }
+    } catch (const RuntimeError& e) {
+      Fail("expected " + w[2].text + ", got run-time error " + std::to_string(e.number()));
+    }
+  } else if (what == "form") {
+    NeedWords(w, 3);
+    const forms::Form* front = ctx_->forms().ActiveForm();
+    if (front == nullptr || front->Name() != w[2].text) {
+      Fail("expected form " + w[2].text + ", got " + (front ? front->Name() : "none"));
+    }
+  } else if (what == "closed") {
+    if (const forms::Form* front = ctx_->forms().ActiveForm()) {
+      Fail("expected no open dialog, got " + front->Name());
+    }
+  } else if (what == "trace" || what == "notrace" || what == "log" || what == "file") {
+    ExpectFiles(what, w);
+  } else {
+    ExpectControl(what, w);
+  }
+}
+
+void ScenarioRun::ExpectFiles(const std::string& what, const std::vector<Word>& w) {
+  if (what == "trace" || what == "notrace") {
+    const auto files = FilesNamed(tree_.root(), "PBP.txt");
+    if (what == "notrace" && w.size() < 3) {
+      if (!files.empty()) Fail("expected no trace file, got " + files.front().string());
+      return;
+    }
+    NeedWords(w, 3);
+    const std::string ending = "NVRANDOM - " + Text(w[2]);
+    bool found = false;
+    for (const auto& file : files) {
+      for (const std::string& line : Lines(ReadWhole(file)))
+        found = found || EndsWith(line, ending);
+    }
+    if (what == "trace" && !found) {
+      Fail("expected trace line " + Quote(Text(w[2])) +
+           (files.empty() ? ", got no trace file" : ", got none"));
+    }
+    if (what == "notrace" && found) Fail("expected no trace line " + Quote(Text(w[2])));
+  } else if (what == "log") {
+    NeedWords(w, 3);
+    const std::string want = Text(w[2]);
+    bool found = false;
+    for (const auto& file : FilesNamed(tree_.root(), "error.log")) {
+      for (const std::string& line : Lines(ReadWhole(file))) {
+        found = found || line.find(want) != std::string::npos;
+      }
+    }
+    if (!found) Fail("expected an error log line with " + Quote(want) + ", got none");
+  } else {
+    NeedWords(w, 4);
+    const fs::path file = tree_.root() + Text(w[2]);
+    std::error_code ec;
+    if (!fs::is_regular_file(file, ec)) {
+      Fail("expected file " + Text(w[2]) + ", got none");
+    } else if (ReadWhole(file).find(Text(w[3])) == std::string::npos) {
+      Fail("expected " + Text(w[2]) + " to contain " + Quote(Text(w[3])));
+    }
+  }
+}
+
+void ScenarioRun::ExpectControl(const std::string& what, const std::vector<Word>& w) {
+  static const char* const kKnown[] = {"focus",  "text", "visible", "enabled", "selected",
+                                       "masked", "list", "row",     "checked"};
+  bool known = false;
+  for (const char* k : kKnown) known = known || what == k;
+  if (!known) throw MalformedLine("unknown expectation '" + what + "'");
+  NeedWords(w, 3);
+  const auto boolean = [&](size_t i) {
+    NeedWords(w, i + 1);
+    const auto b = ParseBool(w[i].text);
+    if (!b) throw MalformedLine("expected true or false, not '" + w[i].text + "'");
+    return *b;
+  };
+  const auto number = [&](size_t i) {
+    NeedWords(w, i + 1);
+    const auto n = ParseInteger(w[i].text);
+    if (!n) throw MalformedLine("expected a number, not '" + w[i].text + "'");
+    return *n;
+  };
+
+  // A form's own caption, by the form's name.
+  if (what == "text") {
+    NeedWords(w, 4);
+    for (const auto& form : ctx_->forms().LoadedForms()) {
+      if (form->Name() != w[2].text) continue;
+      if (form->Caption() != Text(w[3])) {
+        Fail("expected " + w[2].text + " caption " + Quote(Text(w[3])) + ", got " +
+             Quote(form->Caption()));
+      }
+      return;
+    }
+  }
+  if (what == "focus") {
+    const forms::Form* front = ctx_->forms().ActiveForm();
+    const forms::Control* focused = front != nullptr ? front->ActiveControl() : nullptr;
+    if (focused == nullptr || focused->FullName() != w[2].text) {
+      Fail("expected focus " + w[2].text + ", got " + (focused ? focused->FullName() : "none"));
+    }
+    return;
+  }
+  const forms::Control* c = FindControl(w[2], false);
+  if (c == nullptr) {
+    Fail("expected " + what + " of " + w[2].text + ", got no such control on an open dialog");
+    return;
+  }
+  const std::string name = c->FullName();
+  if (what == "text") {
+    const std::string got = ShownText(*c);
+    if (got != Text(w[3])) {
+      Fail("expected text " + Quote(Text(w[3])) + " in " + name + ", got " + Quote(got));
+    }
+  } else if (what == "visible" || what == "enabled") {
+    const bool want = boolean(3);
+    const bool got = what == "visible" ? c->Visible() : c->Enabled();
+    if (got != want) {
+      Fail("expected " + name + " " + what + " " + Describe(want) + ", got " + Describe(got));
+    }
+  } else if (what == "selected") {
+    const auto start = number(3);
+    const auto length = number(4);
+    if (c->SelStart() != start || c->SelLength() != length) {
+      Fail("expected " + name + " selection " + std::to_string(start) + " " +
+           std::to_string(length) + ", got " + std::to_string(c->SelStart()) + " " +
+           std::to_string(c->SelLength()));
+    }
+  } else if (what == "masked") {
+    const bool want = boolean(3);
+    const bool got = c->PasswordChar() == "*";
+    if (got != want)
+      Fail("expected " + name + " masked " + Describe(want) + ", got " + Describe(got));
+  } else if (what == "list") {
+    const auto want = number(3);
+    if (c->ListCount() != want) {
+      Fail("expected " + name + " to hold " + std::to_string(want) + " rows, got " +
+           std::to_string(c->ListCount()));
+    }
+  } else if (what == "row") {
+    const auto index = number(3);
+    NeedWords(w, 5);
+    std::string got;
+    for (const std::string& column : c->Row(static_cast<int>(index))) {
+      got += (got.empty() ? "" : ";") + column;
+    }
+    if (index < 0 || index >= c->ListCount() || got != Text(w[4])) {
+      Fail("expected row " + std::to_string(index) + " of " + name + " " + Quote(Text(w[4])) +
+           ", got " + Quote(got));
+    }
+  } else if (what == "checked") {
+    const bool want = boolean(3);
+    const bool got = c->kind() == forms::ControlKind::kCheckBox ? c->Value() == 1 : c->Value() != 0;
+    if (got != want)
+      Fail("expected " + name + " checked " + Describe(want) + ", got " + Describe(got));
+  }
+}
+
+}  // namespace nvrandom::scenario

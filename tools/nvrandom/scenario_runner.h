@@ -1,0 +1,111 @@
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "api/cls_random.h"
+#include "forms/application.h"
+#include "platform/headless/headless_services.h"
+#include "scenario_line.h"
+
+namespace nvrandom {
+class Context;
+}
+
+namespace nvrandom::scenario {
+
+class InstallationTree;
+
+struct RunOptions {
+  bool transcript = false;
+};
+
+struct FileResult {
+  int failures = 0;
+  bool malformed = false;
+};
+
+// Runs one scenario file against a fresh component state and installation tree. It is the
+// modal driver of the forms it opens: a modal show carries on with the file's next statements
+// until the dialog closes, so nested dialogs follow the script naturally.
+class ScenarioRun final : public forms::ModalDriver, public forms::FormObserver {
+ public:
+  ScenarioRun(std::string file, std::vector<std::string> lines, const InstallationTree& tree,
+              const RunOptions& options, std::ostream& out);
+  ~ScenarioRun() override;
+
+  FileResult Run();
+
+  // forms::ModalDriver
+  void RunModal(forms::Form& form) override;
+  // forms::FormObserver: the transcript.
+  void FocusChanged(forms::Form& form, forms::Control* now) override;
+  void FocusRefused(forms::Control& control) override;
+
+ private:
+  struct HostEvent {
+    std::string name;
+    std::optional<int16_t> arg;
+    bool matched = false;
+  };
+  class EventRecorder;
+  struct PendingError {
+    int32_t number;
+    std::string description;
+    size_t line;
+  };
+
+  // Executes the next statement; false at the end of the file or once it is malformed.
+  bool Step();
+  void Execute(const std::vector<Word>& w);
+  bool ExecuteHost(const std::vector<Word>& w);
+  bool ExecutePerson(const std::vector<Word>& w);
+  void ExecuteExpect(const std::vector<Word>& w);
+  void ExpectControl(const std::string& what, const std::vector<Word>& w);
+  void ExpectFiles(const std::string& what, const std::vector<Word>& w);
+  void ReadCountries(const std::vector<Word>& w);
+
+  void NewInstance();
+  void Show(const std::string& how);
+  forms::Control* PersonTarget(const Word& word);
+  forms::Control* FindControl(const Word& word, bool front_only);
+  void Fail(const std::string& message);
+  void Transcript(const std::string& line);
+  void CheckPendingError();
+  std::string Text(const Word& word) const;
+  static void NeedWords(const std::vector<Word>& w, size_t count);
+
+  std::string file_;
+  std::vector<std::string> lines_;
+  const InstallationTree& tree_;
+  RunOptions options_;
+  std::ostream& out_;
+
+  headless::HeadlessServices services_;
+  std::unique_ptr<Context> ctx_;
+  std::vector<std::unique_ptr<ClsRandom>> instances_;
+  std::vector<std::unique_ptr<EventRecorder>> recorders_;
+  std::vector<HostEvent> events_;
+  size_t boxes_matched_ = 0;
+
+  size_t next_line_ = 0;
+  size_t current_line_ = 0;
+  bool malformed_ = false;
+  int failures_ = 0;
+  std::optional<PendingError> pending_error_;
+  std::optional<int32_t> last_result_;
+  bool checked_ = false;
+  Variant last_value_;
+  std::optional<std::string> last_message_;
+};
+
+// Runs the files; returns the exit code: 0 every expectation held, 1 one failed, 2 a file was
+// malformed.
+int RunScenarioFiles(const std::vector<std::string>& files, const RunOptions& options,
+                     std::ostream& out);
+
+}  // namespace nvrandom::scenario
