@@ -47,6 +47,13 @@ ScenarioRun::ScenarioRun(std::string file, std::vector<std::string> lines,
                IconName(box.style) + " buttons " + ButtonsName(box.style) + " answer " +
                std::to_string(box.answer));
   };
+  services_.shell->on_call = [this](const headless::ShellCall& call) {
+    Transcript("shell " + call.verb + " " + Quote(call.file) + " answer " +
+               std::to_string(services_.shell->result));
+  };
+  services_.help->on_call = [this](const headless::HelpCall& call) {
+    Transcript("help " + Quote(call.help_path) + " topic " + std::to_string(call.topic));
+  };
   ctx_ = std::make_unique<Context>(std::move(services_.services));
   ctx_->forms().SetModalDriver(this);
   ctx_->forms().AddObserver(this);
@@ -182,7 +189,8 @@ bool ScenarioRun::ExecuteHost(const std::vector<Word>& w) {
     cls.Let(w[1].text, HostValue(w[2], tree_.root(), tree_.install()));
   } else if (verb == "get") {
     NeedWords(w, 2);
-    out_ << w[1].text << " = " << FormatValue(cls.Get(w[1].text)) << '\n';
+    const Variant value = cls.Get(w[1].text);
+    out_ << w[1].text << " = " << FormatValue(value) << '\n';
   } else if (verb == "new") {
     NewInstance();
   } else if (verb == "show") {

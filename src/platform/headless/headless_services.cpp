@@ -22,11 +22,13 @@ int RecordingMessageBox::Show(std::string_view text, int style, std::string_view
 
 int32_t RecordingShell::Execute(std::string_view verb, std::string_view file, int show_mode) {
   calls.push_back(ShellCall{std::string(verb), std::string(file), show_mode});
+  if (on_call) on_call(calls.back());
   return result;
 }
 
 void RecordingHelp::ShowTopic(std::string_view help_path, uint32_t topic) {
   calls.push_back(HelpCall{std::string(help_path), topic});
+  if (on_call) on_call(calls.back());
 }
 
 HeadlessServices MakeHeadlessServices(const std::string& windows_dir, const std::string& now) {

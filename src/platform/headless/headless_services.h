@@ -43,6 +43,7 @@ class RecordingShell final : public ShellService {
   int32_t Execute(std::string_view verb, std::string_view file, int show_mode) override;
   std::vector<ShellCall> calls;
   int32_t result = 42;
+  std::function<void(const ShellCall&)> on_call;
 };
 
 struct HelpCall {
@@ -54,6 +55,7 @@ class RecordingHelp final : public HelpService {
  public:
   void ShowTopic(std::string_view help_path, uint32_t topic) override;
   std::vector<HelpCall> calls;
+  std::function<void(const HelpCall&)> on_call;
 };
 
 class FixedClock final : public Clock {
