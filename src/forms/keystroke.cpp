@@ -84,6 +84,22 @@ void DefaultAction(Control& c, int16_t key) {
   }
 }
 
+// The character stage of a key press: KeyPress (the form's first when it previews keys), then
+// the control's own handling of the key.
+bool PressCharacter(Control& control, int16_t key_ascii) {
+  Form& form = control.form();
+  if (form.KeyPreview()) {
+    form.Form_KeyPress(key_ascii);
+    if (key_ascii == 0) return false;
+  }
+  if (control.events.KeyPress) {
+    control.events.KeyPress(key_ascii);
+    if (key_ascii == 0) return false;
+  }
+  if (form.IsLoaded()) DefaultAction(control, key_ascii);
+  return true;
+}
+
 }  // namespace
 
 KeyCodeAndShift KeyFor(char32_t ch) {
@@ -165,6 +181,9 @@ bool KeyDownOnly(Control& control, int16_t key_code, int16_t shift) {
   }
   const bool shift_insert = key_code == keys::kKeyInsert && shift == keys::kShiftMask;
   if (shift_insert && IsTextKind(control.kind())) PasteClipboard(control);
+  // Control+V types the paste character, which goes through KeyPress like any other key.
+  if (key_code == keys::kKeyV && shift == keys::kCtrlMask)
+    return PressCharacter(control, keys::kPaste);
   return true;
 }
 
@@ -181,17 +200,8 @@ bool Keystroke(Control& control, char32_t character) {
     control.events.KeyDown(key_code, shift);
     if (key_code == 0) return false;
   }
-  int16_t key_ascii = character > 0x7FFF ? int16_t{'?'} : static_cast<int16_t>(character);
-  if (form.KeyPreview()) {
-    form.Form_KeyPress(key_ascii);
-    if (key_ascii == 0) return false;
-  }
-  if (control.events.KeyPress) {
-    control.events.KeyPress(key_ascii);
-    if (key_ascii == 0) return false;
-  }
-  if (control.form().IsLoaded()) DefaultAction(control, key_ascii);
-  return true;
+  return PressCharacter(control,
+                        character > 0x7FFF ? int16_t{'?'} : static_cast<int16_t>(character));
 }
 
 }  // namespace nvrandom::forms

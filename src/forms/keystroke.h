@@ -41,7 +41,8 @@ std::vector<char32_t> DecodeKeys(std::string_view keys);
 bool Keystroke(Control& control, char32_t character);
 
 // A KeyDown alone (a key that types no character, or a shortcut): returns false when discarded.
-// Shift+Insert and Control+V paste into text boxes when not discarded.
+// Shift+Insert pastes into text boxes when not discarded; Control+V goes on as the key press of
+// the paste character (22), which KeyPress may discard in turn.
 bool KeyDownOnly(Control& control, int16_t key_code, int16_t shift);
 
 }  // namespace nvrandom::forms
