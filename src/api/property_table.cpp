@@ -120,13 +120,31 @@ const PropertyInfo* FindProperty(std::string_view name) {
 }
 
 void LetProperty(Context& ctx, PropertyId id, const Variant& value) {
-  if (id != PropertyId::PlayByPlayEnabled) TraceProcedure(ctx, id, "Let ");
   ComponentStore& s = ctx.store;
-  switch (id) {
-    case PropertyId::DLLPath:
-      s.DLLPath = ToText(value);
-      s.gstrInstallRoot = InstallRootOf(s.DLLPath);
+  // A typed parameter is converted by the call itself, before the procedure is entered: a value
+  // that cannot be converted fails the call and leaves no trace line. Variant parameters are
+  // converted inside the procedure, after its label.
+  switch (Property(id).type) {
+    case PropertyType::kInteger:
+    case PropertyType::kFlag: {
+      const int16_t number = ToInteger(value);
+      if (id != PropertyId::PlayByPlayEnabled) TraceProcedure(ctx, id, "Let ");
+      *IntegerMember(s, id) = number;
       return;
+    }
+    case PropertyType::kString:
+    case PropertyType::kGlobal: {
+      std::string text = ToText(value);
+      TraceProcedure(ctx, id, "Let ");
+      if (id == PropertyId::DLLPath) s.gstrInstallRoot = InstallRootOf(text);
+      *StringMember(s, id) = std::move(text);
+      return;
+    }
+    case PropertyType::kVariant:
+      break;
+  }
+  TraceProcedure(ctx, id, "Let ");
+  switch (id) {
     case PropertyId::Prov_areacode:
       LetProvAreaCode(s, value);
       return;
@@ -143,12 +161,7 @@ void LetProperty(Context& ctx, PropertyId id, const Variant& value) {
       s.IPBillerCurrencies = ToArray(value);
       return;
     default:
-      break;
-  }
-  if (int16_t* member = IntegerMember(s, id)) {
-    *member = ToInteger(value);
-  } else if (std::string* text = StringMember(s, id)) {
-    *text = ToText(value);
+      return;
   }
 }
 

@@ -1,5 +1,0 @@
-#include <gtest/gtest.h>
-#include "component/store.h"
-TEST(Smoke, Root) {
-  EXPECT_EQ(nvrandom::InstallRootOf("/a/NORVIK/b"), "/a/");
-}
