@@ -65,9 +65,10 @@ ClsRandom::ClsRandom(Context& ctx) : ctx_(ctx), relay_(std::make_unique<Relay>(*
     if (bar == std::string_view::npos) break;
     start = bar + 1;
   }
-  s.WhatKindOfBiller = " ";
-  s.CurrencyCodeFromMain = "CAD";
-  s.gstrCountryListAll = "Y";
+  // Assigned from strings, not literals: gcc 12 at -O2 warns falsely (-Wrestrict) on the latter.
+  s.WhatKindOfBiller = std::string(" ");
+  s.CurrencyCodeFromMain = std::string("CAD");
+  s.gstrCountryListAll = std::string("Y");
 }
 
 ClsRandom::~ClsRandom() {
