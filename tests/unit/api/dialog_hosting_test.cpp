@@ -1,0 +1,259 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "api/cls_random.h"
+#include "component/component_host.h"
+#include "dialogs/biller/frm_random_info.h"
+#include "dialogs/biller/random_info_design.h"
+#include "forms/user_input.h"
+#include "platform/runtime_error.h"
+
+namespace nvrandom::component_test {
+namespace {
+
+using forms::Application;
+
+std::vector<forms::Form*> OpenDialogs(Host& h) {
+  std::vector<forms::Form*> dialogs;
+  for (const auto& form : h.ctx.forms().LoadedForms()) {
+    if (form->Name() == "frmRandomInfo") dialogs.push_back(form.get());
+  }
+  return dialogs;
+}
+
+forms::Form& RemoteDialog(Host& h) {
+  forms::Form* front = h.ctx.forms().ActiveForm();
+  EXPECT_NE(front, nullptr);
+  return *front;
+}
+
+// ShowForm shows a dialog of its own, not connected to the class: cancelling gives 50000 and no
+// host event; a close by code gives 0 (the result is reset before the show); a run-time error
+// during the show is returned as the result. The dialog is released in every case.
+TEST(DialogHosting, ShowFormReturnsTheCloseResult) {
+  struct Case {
+    const char* what;
+    std::function<void(ClsRandom&, forms::Form&)> script;
+    int32_t result;
+  };
+  const Case cases[] = {
+      {"cancel button", [](ClsRandom&, forms::Form& f) { forms::user::Click(f.Ctl("cmd_cancel")); },
+       50000},
+      {"close box", [](ClsRandom&, forms::Form& f) { forms::user::CloseBox(f); }, 50000},
+      {"unloaded by code", [](ClsRandom&, forms::Form& f) { f.Unload(); }, 0},
+      {"closed from the host", [](ClsRandom& c, forms::Form&) { c.Unload_From_Remote(); }, 0},
+      {"run-time error", [](ClsRandom&, forms::Form&) { throw RuntimeError(7); }, 7},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.what);
+    Host h;
+    ClsRandom cls(h.ctx);
+    RecordingSink sink;
+    cls.Advise(sink);
+    h.ctx.store.closeResult = 123;
+    h.ctx.store.importFlag = -1;
+    bool was_modal = false;
+    h.driver.script = [&](forms::Form& f) {
+      was_modal = f.IsModal() && f.Name() == "frmRandomInfo";
+      EXPECT_EQ(h.ctx.store.importFlag, 0);
+      row.script(cls, f);
+    };
+    EXPECT_EQ(cls.ShowForm(), row.result);
+    EXPECT_TRUE(was_modal);
+    EXPECT_EQ(sink.log, "") << "an unconnected dialog reached the host";
+    EXPECT_TRUE(OpenDialogs(h).empty());
+  }
+}
+
+// The embedded dialog is the class's connected instance: cancel, the close box and a system
+// shutdown each end it with result 50000 and exactly one Cancel event; Unload_From_Remote ends it
+// with none.
+TEST(DialogHosting, ShowFormRemoteRelaysOneCancel) {
+  struct Case {
+    const char* what;
+    std::function<void(ClsRandom&, forms::Form&)> close;
+    const char* events;
+    int32_t close_result;
+  };
+  const Case cases[] = {
+      {"cancel button", [](ClsRandom&, forms::Form& f) { forms::user::Click(f.Ctl("cmd_cancel")); },
+       "Cancel;", 50000},
+      {"close box", [](ClsRandom&, forms::Form& f) { forms::user::CloseBox(f); }, "Cancel;", 50000},
+      {"shutdown", [](ClsRandom&, forms::Form& f) { forms::user::Shutdown(f); }, "Cancel;", 50000},
+      {"Unload_From_Remote", [](ClsRandom& c, forms::Form&) { c.Unload_From_Remote(); }, "", 0},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.what);
+    Host h;
+    ClsRandom cls(h.ctx);
+    RecordingSink sink;
+    cls.Advise(sink);
+    EXPECT_EQ(cls.ShowForm_Remote(), 0);
+    forms::Form& dialog = RemoteDialog(h);
+    EXPECT_TRUE(dialog.Visible());
+    EXPECT_FALSE(dialog.IsModal());
+    EXPECT_EQ(dialog.hWnd(), cls.Get_hWnd());
+    row.close(cls, dialog);
+    EXPECT_EQ(sink.log, row.events);
+    EXPECT_EQ(h.ctx.store.closeResult, row.close_result);
+    EXPECT_TRUE(OpenDialogs(h).empty());
+  }
+}
+
+// Unload_From_Remote closes every biller dialog of the component, connected to whichever class,
+// without an event to anyone.
+TEST(DialogHosting, UnloadFromRemoteClosesEveryInstance) {
+  Host h;
+  ClsRandom first(h.ctx);
+  ClsRandom second(h.ctx);
+  RecordingSink first_sink;
+  RecordingSink second_sink;
+  first.Advise(first_sink);
+  second.Advise(second_sink);
+  first.ShowForm_Remote();
+  second.ShowForm_Remote();
+  EXPECT_EQ(OpenDialogs(h).size(), 2U);
+  first.Unload_From_Remote();
+  EXPECT_TRUE(OpenDialogs(h).empty());
+  EXPECT_EQ(first_sink.log + second_sink.log, "");
+}
+
+// The host asks for the handle and size of the connected dialog before showing it; they must be
+// those of the instance that ShowForm_Remote then shows.
+TEST(DialogHosting, ConnectedInstanceIsCreatedOnceOnFirstUse) {
+  Host h;
+  ClsRandom cls(h.ctx);
+  const int32_t hwnd = cls.Get_hWnd();
+  EXPECT_NE(hwnd, 0);
+  EXPECT_EQ(cls.Get_hWnd(), hwnd);
+  EXPECT_EQ(cls.Get_Width(), RandomInfoForm().width);
+  EXPECT_EQ(cls.Get_Height(), RandomInfoForm().height);
+  cls.ShowForm_Remote();
+  EXPECT_EQ(RemoteDialog(h).hWnd(), hwnd);
+  EXPECT_EQ(OpenDialogs(h).size(), 1U);
+}
+
+// Read-only display of an imported biller: its own captions, the cancel button hidden, no field
+// editable; the foreign bank button stays usable (and says so) only when the biller has foreign
+// bank details. The result is 0 however the dialog is closed.
+TEST(DialogHosting, ShowFormImportLocksTheDialog) {
+  struct Case {
+    const char* fx_bank_city;
+    bool frame1_enabled;
+    const char* fx_button;
+  };
+  const Case cases[] = {
+      {"", false, "&Enter Banking Information"},
+      {"   ", false, "&Enter Banking Information"},
+      {"PARIS", true, "View Banking Information"},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(std::string("PayeeFXBankCity '") + row.fx_bank_city + "'");
+    Host h;
+    ClsRandom cls(h.ctx);
+    cls.PayeeFXBankCity(row.fx_bank_city);
+    bool shown = false;
+    h.driver.script = [&](forms::Form& f) {
+      shown = f.IsModal();
+      EXPECT_EQ(h.ctx.store.importFlag, -1);
+      EXPECT_EQ(f.Ctl("Frame1").Caption(), "Information about this Biller/Payee");
+      EXPECT_EQ(f.Ctl("cmd_ok").Caption(), "Close");
+      EXPECT_FALSE(f.Ctl("cmd_cancel").Visible());
+      EXPECT_FALSE(f.Ctl("Frame3").Enabled());
+      EXPECT_EQ(f.Ctl("Frame1").Enabled(), row.frame1_enabled);
+      EXPECT_EQ(f.Ctl("cmdFXBankingInfo").Caption(), row.fx_button);
+      EXPECT_EQ(Application::Available(f.Ctl("cmdFXBankingInfo")), row.frame1_enabled);
+      for (const auto& c : f.Controls()) {
+        if (c->kind() == forms::ControlKind::kTextBox) {
+          EXPECT_FALSE(Application::Available(*c)) << c->Name() << " is editable";
+        }
+      }
+      EXPECT_TRUE(Application::Available(f.Ctl("cmd_ok")));
+      forms::user::CloseBox(f);
+    };
+    EXPECT_EQ(cls.ShowForm_Import(), 0);
+    EXPECT_TRUE(shown);
+    EXPECT_TRUE(OpenDialogs(h).empty());
+  }
+}
+
+// Each help image opens its own topic of the help file in the installation root (with the
+// "ShowTopic" window type); an index without a topic opens nothing.
+TEST(DialogHosting, HelpTopics) {
+  Host h;
+  ClsRandom cls(h.ctx);
+  cls.DLLPath(P("/opt/bills/NORVIK/Bin"));
+  auto dialog = frmRandomInfo::Create(h.ctx, nullptr);
+  const uint32_t topics[] = {506000012, 506000014, 506000014, 506000013, 506000018, 506000019};
+  for (int i = 0; i < 6; ++i) dialog->Ctl("imgHelpCSFTInfo", i).events.Click();
+  dialog->imgHelpCSFTInfo_Click(6);
+  dialog->imgHelpCSFTInfo_Click(-1);
+  dialog->Ctl("cmd_help").events.Click();
+  ASSERT_EQ(h.help.calls.size(), 7U);
+  for (size_t i = 0; i < 7; ++i) {
+    SCOPED_TRACE(i);
+    EXPECT_EQ(h.help.calls[i].help_path, P("/opt/bills/NORVIK.CHM>ShowTopic"));
+    EXPECT_EQ(h.help.calls[i].topic, i < 6 ? topics[i] : 506000012U);
+  }
+}
+
+// Enter on the dialog sends the text "9" to whatever control has the focus once the key is
+// handled, and the Enter itself still reaches the control: on a button it presses it.
+TEST(DialogHosting, EnterTypesANineAndIsPassedOn) {
+  Host h;
+  ClsRandom cls(h.ctx);
+  RecordingSink sink;
+  cls.Advise(sink);
+  cls.ShowForm_Remote();
+  forms::Form& dialog = RemoteDialog(h);
+  forms::user::Key(dialog.Ctl("ran_payee_ph_area"), 13);
+  forms::Control* focused = h.ctx.forms().Focused();
+  ASSERT_NE(focused, nullptr);
+  EXPECT_EQ(focused->Text(), "9");
+  forms::user::Key(dialog.Ctl("cmd_cancel"), 13);
+  EXPECT_EQ(sink.log, "Cancel;");
+}
+
+// Cookies name connections: never 0, one per Advise; Unadvise ends exactly that connection and
+// refuses a cookie that is not connected.
+TEST(DialogHosting, AdviseAndUnadvise) {
+  Host h;
+  ClsRandom cls(h.ctx);
+  RecordingSink first;
+  RecordingSink second;
+  const uint32_t c1 = cls.Advise(first);
+  const uint32_t c2 = cls.Advise(second);
+  EXPECT_NE(c1, 0U);
+  EXPECT_NE(c2, 0U);
+  EXPECT_NE(c1, c2);
+  EXPECT_FALSE(cls.Unadvise(0));
+  EXPECT_FALSE(cls.Unadvise(c2 + 1));
+  EXPECT_TRUE(cls.Unadvise(c1));
+  EXPECT_FALSE(cls.Unadvise(c1));
+  cls.ShowForm_Remote();
+  forms::user::CloseBox(RemoteDialog(h));
+  EXPECT_EQ(first.log, "");
+  EXPECT_EQ(second.log, "Cancel;");
+}
+
+// A host may release the class while its embedded dialog is still open; closing the dialog
+// afterwards must not reach the released class.
+TEST(DialogHosting, DialogOutlivesItsClass) {
+  Host h;
+  RecordingSink sink;
+  {
+    ClsRandom cls(h.ctx);
+    cls.Advise(sink);
+    cls.ShowForm_Remote();
+  }
+  ASSERT_EQ(OpenDialogs(h).size(), 1U);
+  forms::user::CloseBox(*OpenDialogs(h).front());
+  EXPECT_TRUE(OpenDialogs(h).empty());
+  EXPECT_EQ(sink.log, "");
+}
+
+}  // namespace
+}  // namespace nvrandom::component_test

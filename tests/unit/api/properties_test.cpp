@@ -1,0 +1,229 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "api/cls_random.h"
+#include "api/property_table.h"
+#include "component/component_host.h"
+#include "component/store.h"
+#include "platform/runtime_error.h"
+
+namespace nvrandom::component_test {
+namespace {
+
+// Runs `f` and gives the run-time error number it raised, 0 for none.
+int ErrorOf(const std::function<void()>& f) {
+  try {
+    f();
+  } catch (const RuntimeError& e) {
+    return e.number();
+  }
+  return 0;
+}
+
+// A new instance reads " " for the kind of biller, "CAD" for the host's currency and empty for
+// every biller field; the store holds the 15 post-office-box words and a (0 To 0, 0 To 0)
+// currency list.
+TEST(Properties, ClassInitialisationSetsTheDefaults) {
+  Host h;
+  ClsRandom cls(h.ctx);
+  for (size_t i = 0; i < kPropertyCount; ++i) {
+    const PropertyInfo& p = Property(static_cast<PropertyId>(i));
+    if (!p.can_get) continue;
+    SCOPED_TRACE(std::string(p.name));
+    const Variant value = cls.Get(p.name);
+    if (p.name == "WhatKindOfBiller") {
+      EXPECT_EQ(value, Variant(" "));
+    } else if (p.name == "CurrencyCodeFromMain") {
+      EXPECT_EQ(value, Variant("CAD"));
+    } else if (p.type == PropertyType::kString) {
+      EXPECT_EQ(value, Variant(""));
+    } else {
+      EXPECT_EQ(value, Variant(0));
+    }
+  }
+  EXPECT_EQ(h.ctx.store.gstrCountryListAll, "Y");
+  const std::vector<std::string> words = {
+      "PO BOX",     "P.O. BOX",        "P.O.BOX",      "P.O BOX", "POST OFFICE BOX",
+      "POSTAL BOX", "POST-OFFICE BOX", "CP",           "C.P.",    "C.P.POSTALE",
+      "BOITE",      "BOITE POSTALE",   "CASE POSTALE", "BP",      "B.P."};
+  EXPECT_EQ(h.ctx.store.poBoxWords, words);
+  const StringArray& list = h.ctx.store.IPCurrencyList;
+  EXPECT_EQ(list.dimensions(), 2);
+  EXPECT_EQ(list.LBound(1), 0);
+  EXPECT_EQ(list.UBound(1), 0);
+  EXPECT_EQ(list.LBound(2), 0);
+  EXPECT_EQ(list.UBound(2), 0);
+  EXPECT_EQ(list.at(0, 0), "");
+}
+
+// Every instance of a thread works on one record: what one sets the other reads. A new instance
+// resets only what class initialisation names and keeps the rest of what the host set.
+TEST(Properties, InstancesShareOneStore) {
+  Host h;
+  ClsRandom first(h.ctx);
+  first.PayeeName("ACME");
+  first.FormStyle(2);
+  first.WhatKindOfBiller("U");
+  first.CurrencyCodeFromMain("USD");
+  first.CountryListAll("N");
+  first.IPCurrencyList(Variant(StringArray::TwoDimensional(0, 1, 0, 3)));
+  h.ctx.store.importFlag = -1;
+  ClsRandom second(h.ctx);
+  EXPECT_EQ(second.PayeeName(), "ACME");
+  EXPECT_EQ(second.FormStyle(), 2);
+  EXPECT_EQ(first.WhatKindOfBiller(), " ");
+  EXPECT_EQ(first.CurrencyCodeFromMain(), "CAD");
+  EXPECT_EQ(h.ctx.store.gstrCountryListAll, "Y");
+  EXPECT_EQ(h.ctx.store.IPCurrencyList, StringArray::TwoDimensional(0, 0, 0, 0));
+  EXPECT_EQ(h.ctx.store.importFlag, 0);
+  second.PayeeCity("TORONTO");
+  EXPECT_EQ(first.PayeeCity(), "TORONTO");
+}
+
+// Row i of the province table comes from elements (0, i) and (1, i), for i below the array's
+// upper bound in its second dimension: the last column passed is left out. A row past the 21
+// of the table raises error 9 once the rows before it are in; a one-dimensional array has no
+// second dimension (9); a value that is no array is a type mismatch (13).
+TEST(Properties, ProvAreaCodeCopiesAllButTheLastColumn) {
+  struct Case {
+    const char* what;
+    Variant value;
+    int error;
+    int rows_copied;
+  };
+  const auto table = [](int32_t upper1) {
+    StringArray a = StringArray::TwoDimensional(0, 1, 0, upper1);
+    for (int32_t i = 0; i <= upper1; ++i) {
+      a.at(0, i) = "P" + std::to_string(i);
+      a.at(1, i) = "A" + std::to_string(i);
+    }
+    return Variant(a);
+  };
+  const Case cases[] = {
+      {"2 x 3", table(2), 0, 2},
+      {"2 x 22: the whole table", table(21), 0, 21},
+      {"2 x 23: one row too many", table(22), 9, 21},
+      {"2 x 1: nothing", table(0), 0, 0},
+      {"one dimension", Variant(StringArray::OneDimensional(0, 5)), 9, 0},
+      {"a text", Variant("ON"), 13, 0},
+      {"nothing", Variant(), 13, 0},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.what);
+    Host h;
+    ClsRandom cls(h.ctx);
+    for (auto& r : h.ctx.store.Prov_areacode) r = {"old", "old"};
+    EXPECT_EQ(ErrorOf([&] { cls.Let("Prov_areacode", row.value); }), row.error);
+    for (int i = 0; i < ComponentStore::kProvAreaCodeRows; ++i) {
+      const auto& stored = h.ctx.store.Prov_areacode[static_cast<size_t>(i)];
+      if (i < row.rows_copied) {
+        EXPECT_EQ(stored[0], "P" + std::to_string(i));
+        EXPECT_EQ(stored[1], "A" + std::to_string(i));
+      } else {
+        EXPECT_EQ(stored[0], "old") << "row " << i;
+      }
+    }
+  }
+}
+
+// Values passed by name are converted as the platform converts them; a value that cannot be
+// converted fails the call (13 type mismatch, 6 overflow) and leaves the property as it was.
+TEST(Properties, ValuesAreConvertedToThePropertyType) {
+  struct Case {
+    const char* property;
+    Variant value;
+    int error;
+    std::string stored;
+  };
+  const auto array = Variant(StringArray::OneDimensional(0, 0));
+  const Case cases[] = {
+      {"NVMemberType", 7, 0, "7"},
+      {"NVMemberType", "B", 0, "B"},
+      {"NVMemberType", Variant(), 0, ""},
+      {"NVMemberType", array, 13, ""},
+      {"IPBillerNameAcctExist", 1, 0, "-1"},
+      {"IPBillerNameAcctExist", 0, 0, "0"},
+      {"IPBillerNameAcctExist", "True", 0, "-1"},
+      {"IPBillerNameAcctExist", "false", 0, "0"},
+      {"IPBillerNameAcctExist", "2", 0, "-1"},
+      {"IPBillerNameAcctExist", "abc", 13, "0"},
+      {"IPBillerNameAcctExist", Variant(), 0, "0"},
+      {"FormStyle", "12", 0, "12"},
+      {"FormStyle", " 3 ", 0, "3"},
+      {"FormStyle", "2.5", 0, "2"},  // rounds half to even
+      {"FormStyle", "abc", 13, "0"},
+      {"FormStyle", "", 13, "0"},
+      {"FormStyle", 70000, 6, "0"},
+      {"FormStyle", -32769, 6, "0"},
+      {"FormStyle", array, 13, "0"},
+      {"Add", 1, 0, "1"},  // a Flag keeps the value the host set
+      {"PayeeName", 42, 0, "42"},
+      {"PayeeName", array, 13, ""},
+      {"IPCurrencyList", "USD", 13, "(0 To 0, 0 To 0)"},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(std::string(row.property));
+    Host h;
+    ClsRandom cls(h.ctx);
+    EXPECT_EQ(ErrorOf([&] { cls.Let(row.property, row.value); }), row.error);
+    const ComponentStore& s = h.ctx.store;
+    const std::string property = row.property;
+    std::string stored;
+    if (property == "NVMemberType") stored = s.NVMemberType;
+    if (property == "IPBillerNameAcctExist") stored = std::to_string(s.IPBillerNameAcctExist);
+    if (property == "FormStyle") stored = std::to_string(s.FormStyle);
+    if (property == "Add") stored = std::to_string(s.Add);
+    if (property == "PayeeName") stored = s.PayeeName;
+    if (property == "IPCurrencyList" && s.IPCurrencyList == StringArray::TwoDimensional(0, 0, 0, 0))
+      stored = "(0 To 0, 0 To 0)";
+    EXPECT_EQ(stored, row.stored);
+  }
+}
+
+// Names that are no property fail with 438; reading a property the host may only set fails with
+// 451.
+TEST(Properties, NameErrors) {
+  Host h;
+  ClsRandom cls(h.ctx);
+  EXPECT_EQ(ErrorOf([&] { cls.Let("NoSuchThing", 1); }), 438);
+  EXPECT_EQ(ErrorOf([&] { cls.Get("NoSuchThing"); }), 438);
+  EXPECT_EQ(ErrorOf([&] { cls.Get("DLLPath"); }), 451);
+  EXPECT_EQ(ErrorOf([&] { cls.Get("NVMemberType"); }), 451);
+  EXPECT_EQ(ErrorOf([&] { cls.Get("PayeeName"); }), 0);
+}
+
+// The installation root is DLLPath up to and including the separator before the first
+// "NORVIK" folder name, compared case-sensitively; each new DLLPath replaces it.
+TEST(Properties, DllPathDerivesTheInstallationRoot) {
+  struct Case {
+    std::string dll_path;
+    std::string root;
+  };
+  const std::string long_folder(100000 - 12, 'a');
+  const Case cases[] = {
+      {P("/apps/NORVIK/Bin"), P("/apps/")},
+      {P("/apps/norvik/Bin"), ""},
+      {P("/apps/Norvik/Bin"), ""},
+      {P("/a/NORVIK/b/NORVIK/c"), P("/a/")},
+      {P("/apps/NORVIK"), P("/apps/")},
+      {P("/NORVIKSOFT/x"), P("/")},  // the name is matched as a prefix
+      {P("NORVIK/x"), ""},           // no separator before it
+      {"", ""},
+      {P("/\xFF\xFE/NORVIK/b"), P("/\xFF\xFE/")},
+      {P("/" + long_folder + "/NORVIK/b"), P("/" + long_folder + "/")},
+  };
+  Host h;
+  ClsRandom cls(h.ctx);
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.dll_path.substr(0, 40));
+    cls.DLLPath(row.dll_path);
+    EXPECT_EQ(h.ctx.store.DLLPath, row.dll_path);
+    EXPECT_EQ(h.ctx.store.gstrInstallRoot, row.root);
+  }
+}
+
+}  // namespace
+}  // namespace nvrandom::component_test

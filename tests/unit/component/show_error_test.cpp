@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "component/component_host.h"
+#include "component/show_error.h"
+#include "platform/message_box.h"
+#include "platform/runtime_error.h"
+
+namespace nvrandom::component_test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// One critical OK box with the fixed message, captioned with the title or, when the title is
+// blank, the application's; then one comma-separated line in error.log of the root.
+TEST(ShowError, ShowsTheMessageAndLogsOneLine) {
+  struct Case {
+    const char* title;
+    const char* caption;
+  };
+  for (const Case& row :
+       {Case{"", "NVRandom"}, Case{"   ", "NVRandom"}, Case{"Biller", "Biller"}}) {
+    SCOPED_TRACE(std::string("title '") + row.title + "'");
+    TempRoot root;
+    Host h;
+    h.ctx.store.gstrInstallRoot = root.root();
+    ShowError(h.ctx, 5, "D", "P", false, row.title);
+    ASSERT_EQ(h.boxes.shown.size(), 1U);
+    EXPECT_EQ(h.boxes.shown[0].text,
+              "The following error: 'D (Error 5)' occurred in procedure 'P'.");
+    EXPECT_EQ(h.boxes.shown[0].style, msgbox::kOKOnly | msgbox::kCritical);
+    EXPECT_EQ(h.boxes.shown[0].caption, row.caption);
+    EXPECT_EQ(ReadFile(root.dir() / "error.log"), h.now + ",NVRandom, , ,5,\"D\",\"P\"\r\n");
+  }
+}
+
+// Silent reports show nothing but are logged all the same; lines accumulate, and quotation
+// marks in the description are written as they are.
+TEST(ShowError, SilentReportsAreLoggedAndLinesAppend) {
+  TempRoot root;
+  Host h;
+  h.ctx.store.gstrInstallRoot = root.root();
+  ShowError(h.ctx, 13, "say \"hi\"", "Random.VerifyBusinessNumber", true);
+  ShowError(h.ctx, RuntimeError(9), "Random.Has_PO_Box_Address");
+  EXPECT_EQ(h.boxes.shown.size(), 1U);
+  EXPECT_EQ(h.boxes.shown.back().text,
+            "The following error: 'Subscript out of range (Error 9)' occurred in procedure "
+            "'Random.Has_PO_Box_Address'.");
+  EXPECT_EQ(ReadFile(root.dir() / "error.log"),
+            h.now + ",NVRandom, , ,13,\"say \"hi\"\",\"Random.VerifyBusinessNumber\"\r\n" + h.now +
+                ",NVRandom, , ,9,\"Subscript out of range\",\"Random.Has_PO_Box_Address\"\r\n");
+}
+
+// The log cannot be written (its name is taken by a folder): the box has been shown and the
+// failure is not reported again. Without a root the log lies in the current directory.
+TEST(ShowError, LogPlaceAndFailures) {
+  TempRoot root;
+  fs::create_directory(root.dir() / "error.log");
+  Host h;
+  h.ctx.store.gstrInstallRoot = root.root();
+  EXPECT_NO_THROW(ShowError(h.ctx, 5, "D", "P"));
+  EXPECT_EQ(h.boxes.shown.size(), 1U);
+
+  TempRoot cwd_root;
+  const CurrentDirectory cwd(cwd_root.dir());
+  h.ctx.store.gstrInstallRoot.clear();
+  ShowError(h.ctx, 5, "D", "P", true);
+  EXPECT_EQ(ReadFile(cwd_root.dir() / "error.log"), h.now + ",NVRandom, , ,5,\"D\",\"P\"\r\n");
+}
+
+// When tracing, the report first writes its trace entry, which spans two lines of the file.
+TEST(ShowError, TraceEntrySpansTwoLines) {
+  TempRoot root;
+  fs::create_directory(root.dir() / "Norvik");
+  Host h;
+  h.ctx.store.gstrInstallRoot = root.root();
+  h.ctx.store.PlayByPlayEnabled = -1;
+  ShowError(h.ctx, 5, "D", "P", true);
+  EXPECT_EQ(ReadFile(root.dir() / "Norvik" / "PBP.txt"),
+            h.now + " NVRANDOM - Random - ShowError D\r\nLastOP=P\r\n");
+}
+
+}  // namespace
+}  // namespace nvrandom::component_test

@@ -1,0 +1,142 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/user_input.h"
+#include "test_form.h"
+
+namespace nvrandom::forms_test {
+namespace {
+
+// Binds LostFocus and GotFocus of `names` to entries in `log`.
+void LogFocus(Harness& h, std::vector<std::string>& log, std::initializer_list<const char*> names) {
+  for (const char* name : names) {
+    forms::Control& c = h.C(name);
+    c.events.LostFocus = [&log, name] { log.push_back(std::string("Lost ") + name); };
+    c.events.GotFocus = [&log, name] { log.push_back(std::string("Got ") + name); };
+  }
+}
+
+// The currency and country LostFocus checks ask which control is receiving the focus: the form's
+// ActiveControl must already be the new control while LostFocus runs, and LostFocus must come
+// before GotFocus.
+TEST(Focus, LostFocusSeesTheControlReceivingTheFocus) {
+  Harness h;
+  h.form->Show();
+  EXPECT_EQ(h.form->ActiveControl(), &h.C("txtName")) << "the first tab stop takes the focus";
+  std::vector<std::string> log;
+  LogFocus(h, log, {"txtName", "txtCode"});
+  const forms::Control* active_during_lost = nullptr;
+  h.C("txtName").events.LostFocus = [&] {
+    log.push_back("Lost txtName");
+    active_during_lost = h.form->ActiveControl();
+  };
+  EXPECT_TRUE(h.app.SetFocus(h.C("txtCode")));
+  EXPECT_EQ(log, (std::vector<std::string>{"Lost txtName", "Got txtCode"}));
+  EXPECT_EQ(active_during_lost, &h.C("txtCode"));
+  EXPECT_EQ(h.app.Focused(), &h.C("txtCode"));
+}
+
+// A LostFocus check that rejects the value sends the focus back: the move under way finishes
+// first, then the focus returns, and nothing recurses.
+TEST(Focus, LostFocusCanSendTheFocusBack) {
+  Harness h;
+  h.form->Show();
+  std::vector<std::string> log;
+  LogFocus(h, log, {"txtName", "txtCode"});
+  h.C("txtName").events.LostFocus = [&] {
+    log.push_back("Lost txtName");
+    h.app.SetFocus(h.C("txtName"));
+  };
+  h.app.SetFocus(h.C("txtCode"));
+  EXPECT_EQ(log, (std::vector<std::string>{"Lost txtName", "Got txtCode", "Lost txtCode",
+                                           "Got txtName"}));
+  EXPECT_EQ(h.app.Focused(), &h.C("txtName"));
+}
+
+// A control is available only when its form is shown and it and every container are visible and
+// enabled. A request for any other control is refused quietly: the focus stays, no LostFocus
+// runs, the observer hears of it (the transcript), and nothing is raised.
+TEST(Focus, RequestsForUnavailableControlsAreRefused) {
+  struct Case {
+    const char* what;
+    std::function<forms::Control&(Harness&)> target;
+  };
+  const Case cases[] = {
+      {"hidden control",
+       [](Harness& h) -> forms::Control& {
+         h.C("txtCode").SetVisible(false);
+         return h.C("txtCode");
+       }},
+      {"disabled control",
+       [](Harness& h) -> forms::Control& {
+         h.C("txtCode").SetEnabled(false);
+         return h.C("txtCode");
+       }},
+      {"inside a disabled frame",
+       [](Harness& h) -> forms::Control& {
+         h.C("fraOther").SetEnabled(false);
+         return h.C("txtInner");
+       }},
+      {"inside a frame inside a hidden frame",
+       [](Harness& h) -> forms::Control& {
+         h.C("fraOther").SetVisible(false);
+         return h.C("txtInner");
+       }},
+      {"on a form that is loaded but not shown",
+       [](Harness& h) -> forms::Control& { return h.child->Ctl("txtCode"); }},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.what);
+    Harness h;
+    h.form->Show();
+    forms::Control& name = h.C("txtName");
+    int lost = 0;
+    name.events.LostFocus = [&] { ++lost; };
+    forms::Control& target = row.target(h);
+    bool moved = true;
+    EXPECT_NO_THROW(moved = h.app.SetFocus(target));
+    EXPECT_FALSE(moved);
+    EXPECT_EQ(h.app.Focused(), &name);
+    EXPECT_EQ(lost, 0);
+    EXPECT_EQ(h.observer.refused, std::vector<std::string>{target.FullName()});
+    EXPECT_FALSE(forms::user::Type(target, "x")) << "typing into it was accepted";
+  }
+}
+
+// Form_Load runs before the form is shown, so a focus request made there is refused like any
+// other; the focus then goes to the first tab stop when the form is shown.
+TEST(Focus, RequestsWhileLoadingAreRefused) {
+  Harness h;
+  bool moved = true;
+  h.form->on_load = [&] { moved = h.app.SetFocus(h.C("txtCode")); };
+  h.form->Show();
+  EXPECT_FALSE(moved);
+  EXPECT_EQ(h.observer.refused, std::vector<std::string>{"txtCode"});
+  EXPECT_EQ(h.app.Focused(), &h.C("txtName"));
+}
+
+// Disabling or hiding a frame takes its children out of reach without touching their own
+// Enabled and Visible, so that enabling the frame again restores each child as it was.
+TEST(Focus, AFrameKeepsItsChildrensOwnState) {
+  Harness h;
+  h.form->Show();
+  forms::Control& frame = h.C("fraMain");
+  forms::Control& code = h.C("txtCode");
+  forms::Control& check = h.C("chkFlag");
+  check.SetEnabled(false);
+  frame.SetEnabled(false);
+  frame.SetVisible(false);
+  EXPECT_TRUE(code.Enabled());
+  EXPECT_TRUE(code.Visible());
+  EXPECT_FALSE(forms::Application::Available(code));
+  frame.SetEnabled(true);
+  frame.SetVisible(true);
+  EXPECT_TRUE(forms::Application::Available(code));
+  EXPECT_FALSE(forms::Application::Available(check)) << "a child disabled on its own came back";
+}
+
+}  // namespace
+}  // namespace nvrandom::forms_test

@@ -1,0 +1,149 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/user_input.h"
+#include "test_form.h"
+
+namespace nvrandom::forms_test {
+namespace {
+
+bool IsLoadedInApp(const Harness& h, const forms::Form& form) {
+  const auto loaded = h.app.LoadedForms();
+  return std::any_of(loaded.begin(), loaded.end(), [&](const auto& f) { return f.get() == &form; });
+}
+
+// QueryUnload is told how the unload started; the biller dialog raises Cancel for every mode
+// but code. An unload leaves the collection of loaded forms that Unload_From_Remote walks.
+TEST(Lifecycle, QueryUnloadIsToldTheUnloadMode) {
+  struct Case {
+    const char* what;
+    std::function<void(forms::Form&)> close;
+    int16_t mode;
+  };
+  const Case cases[] = {
+      {"close box", [](forms::Form& f) { forms::user::CloseBox(f); }, 0},
+      {"code", [](forms::Form& f) { f.Unload(); }, 1},
+      {"system shutdown", [](forms::Form& f) { forms::user::Shutdown(f); }, 2},
+      {"task list", [](forms::Form& f) { f.Unload(forms::unload_mode::kTaskList); }, 3},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.what);
+    Harness h;
+    h.form->Show();
+    row.close(*h.form);
+    EXPECT_EQ(h.form->log,
+              (std::vector<std::string>{"QueryUnload " + std::to_string(row.mode), "Unload"}));
+    EXPECT_FALSE(h.form->IsLoaded());
+    EXPECT_FALSE(h.form->Visible());
+    EXPECT_FALSE(IsLoadedInApp(h, *h.form));
+    EXPECT_EQ(h.app.ActiveForm(), nullptr);
+  }
+}
+
+// A nonzero Cancel from QueryUnload or from Unload keeps the form loaded and on screen.
+TEST(Lifecycle, CancelKeepsTheFormLoaded) {
+  for (const bool in_query : {true, false}) {
+    SCOPED_TRACE(in_query ? "QueryUnload" : "Unload");
+    Harness h;
+    h.form->Show();
+    if (in_query) {
+      h.form->on_query_unload = [](int16_t& cancel, int16_t) { cancel = 1; };
+    } else {
+      h.form->on_unload = [](int16_t& cancel) { cancel = 1; };
+    }
+    EXPECT_FALSE(h.form->Unload(forms::unload_mode::kCloseBox));
+    EXPECT_TRUE(h.form->IsLoaded());
+    EXPECT_TRUE(h.form->Visible());
+    EXPECT_TRUE(IsLoadedInApp(h, *h.form));
+    if (in_query) {
+      EXPECT_EQ(h.form->log, std::vector<std::string>{"QueryUnload 0"});
+    }
+  }
+}
+
+// A modal Show returns when the form is unloaded or hidden; Hide keeps it loaded so that the
+// caller can still read what the user entered. A show nobody can answer is closed by code.
+TEST(Lifecycle, ModalShowReturnsWhenTheFormIsUnloadedOrHidden) {
+  struct Case {
+    const char* what;
+    std::function<void(forms::Form&)> script;
+    bool still_loaded;
+    const char* query_unload;  // what QueryUnload was told, or nullptr
+  };
+  const Case cases[] = {
+      {"hidden", [](forms::Form& f) { f.Hide(); }, true, nullptr},
+      {"unloaded by code", [](forms::Form& f) { f.Unload(); }, false, "QueryUnload 1"},
+      {"closed by its box", [](forms::Form& f) { forms::user::CloseBox(f); }, false,
+       "QueryUnload 0"},
+      {"left open: closed by code", nullptr, false, "QueryUnload 1"},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.what);
+    Harness h;
+    bool was_modal = false;
+    h.driver.script = [&](forms::Form& f) {
+      was_modal = f.IsModal() && f.Visible();
+      forms::user::Type(h.C("txtCode"), "kept");
+      if (row.script) row.script(f);
+    };
+    h.form->Show(true);
+    EXPECT_TRUE(was_modal);
+    EXPECT_FALSE(h.form->Visible());
+    EXPECT_EQ(h.form->IsLoaded(), row.still_loaded);
+    if (row.still_loaded) {
+      EXPECT_EQ(h.form->Find("txtCode")->Text(), "kept");
+    }
+    if (row.query_unload != nullptr) {
+      EXPECT_EQ(h.form->log, (std::vector<std::string>{row.query_unload, "Unload"}));
+    }
+  }
+}
+
+// Touching a control loads the form (once); Find does not. Loading again after an unload starts
+// from the design, not from what the last display left.
+TEST(Lifecycle, FormLoadsOnFirstTouchOfAControl) {
+  Harness h;
+  EXPECT_NE(h.form->Find("txtCode"), nullptr);
+  EXPECT_EQ(h.form->loads, 0);
+  EXPECT_FALSE(h.form->IsLoaded());
+  h.C("txtCode").SetText("changed");
+  h.C("txtName");
+  EXPECT_EQ(h.form->loads, 1);
+  EXPECT_TRUE(IsLoadedInApp(h, *h.form));
+  EXPECT_FALSE(h.form->Visible()) << "touching a control showed the form";
+  h.form->Unload();
+  EXPECT_EQ(h.C("txtCode").Text(), "");
+  EXPECT_EQ(h.form->loads, 2);
+}
+
+// Activate runs when a form is shown and again when it becomes the front form after a child
+// dialog closes (the biller dialog restyles itself then); a form hidden behind stays inactive.
+TEST(Lifecycle, ActivateRunsAgainWhenAChildDialogCloses) {
+  for (const bool hide : {false, true}) {
+    SCOPED_TRACE(hide ? "child hidden" : "child unloaded");
+    Harness h;
+    h.driver.script = [&](forms::Form& f) {
+      EXPECT_EQ(&f, h.child.get());
+      EXPECT_EQ(h.app.ActiveForm(), h.child.get());
+      EXPECT_EQ(h.form->activations, 1) << "the parent was activated under its child";
+      if (hide) {
+        f.Hide();
+      } else {
+        f.Unload();
+      }
+    };
+    h.form->Show();
+    EXPECT_EQ(h.form->activations, 1);
+    h.child->Show(true);
+    EXPECT_EQ(h.child->activations, 1);
+    EXPECT_EQ(h.form->activations, 2);
+    EXPECT_EQ(h.app.ActiveForm(), h.form.get());
+  }
+}
+
+}  // namespace
+}  // namespace nvrandom::forms_test

@@ -1,0 +1,128 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/application.h"
+#include "forms/control.h"
+#include "forms/form.h"
+#include "platform/memory_clipboard.h"
+
+namespace nvrandom::forms_test {
+
+using forms::ControlDesign;
+using K = forms::ControlKind;
+
+// fraMain holds two text boxes, a check box and two option buttons; fraOther holds an option
+// button and, inside fraInner, a third text box; an image array and a button sit on the form.
+inline constexpr std::array<ControlDesign, 14> kControls = {{
+    {.kind = K::kFrame, .name = "fraMain", .caption = "Main"},
+    {.kind = K::kTextBox,
+     .name = "txtName",
+     .container = "fraMain",
+     .max_length = 5,
+     .tab_index = 0},
+    {.kind = K::kTextBox, .name = "txtCode", .container = "fraMain", .tab_index = 1},
+    {.kind = K::kCheckBox, .name = "chkFlag", .container = "fraMain", .tab_index = 2},
+    {.kind = K::kOptionButton, .name = "optA", .container = "fraMain", .tab_index = 3},
+    {.kind = K::kOptionButton, .name = "optB", .container = "fraMain", .tab_index = 4},
+    {.kind = K::kFrame, .name = "fraOther"},
+    {.kind = K::kFrame, .name = "fraInner", .container = "fraOther"},
+    {.kind = K::kTextBox, .name = "txtInner", .container = "fraInner", .tab_index = 5},
+    {.kind = K::kOptionButton, .name = "optC", .container = "fraOther", .tab_index = 6},
+    {.kind = K::kImage, .name = "imgHelp", .index = 0},
+    {.kind = K::kImage, .name = "imgHelp", .index = 1},
+    {.kind = K::kImage, .name = "imgHelp", .index = 2},
+    {.kind = K::kCommandButton, .name = "cmdGo", .caption = "Go", .tab_index = 7},
+}};
+
+inline constexpr forms::FormDesign kPlainForm{"frmTest", "Test", 4800, 3600, false};
+inline constexpr forms::FormDesign kPreviewForm{"frmTest", "Test", 4800, 3600, true};
+inline constexpr forms::FormDesign kChildForm{"frmChild", "Child", 3000, 2000, false};
+
+// A form whose own events are hooks, counted and logged in the order they ran.
+class TestForm final : public forms::Form {
+ public:
+  explicit TestForm(forms::Application& app, const forms::FormDesign& design = kPlainForm)
+      : forms::Form(app, design, kControls) {}
+
+  void Form_Load() override {
+    ++loads;
+    if (on_load) on_load();
+  }
+  void Form_Activate() override {
+    ++activations;
+    if (on_activate) on_activate();
+  }
+  void Form_QueryUnload(int16_t& cancel, int16_t unload_mode) override {
+    log.push_back("QueryUnload " + std::to_string(unload_mode));
+    if (on_query_unload) on_query_unload(cancel, unload_mode);
+  }
+  void Form_Unload(int16_t& cancel) override {
+    log.push_back("Unload");
+    if (on_unload) on_unload(cancel);
+  }
+  void Form_KeyDown(int16_t& key_code, int16_t& shift) override {
+    log.push_back("Form_KeyDown " + std::to_string(key_code));
+    if (on_key_down) on_key_down(key_code, shift);
+  }
+  void Form_KeyPress(int16_t& key_ascii) override {
+    log.push_back("Form_KeyPress " + std::to_string(key_ascii));
+    if (on_key_press) on_key_press(key_ascii);
+  }
+
+  int loads = 0;
+  int activations = 0;
+  std::vector<std::string> log;
+  std::function<void()> on_load;
+  std::function<void()> on_activate;
+  std::function<void(int16_t&, int16_t)> on_query_unload;
+  std::function<void(int16_t&)> on_unload;
+  std::function<void(int16_t&, int16_t&)> on_key_down;
+  std::function<void(int16_t&)> on_key_press;
+};
+
+// Runs a script when a modal show starts; the show ends when the script returns.
+class ScriptedDriver final : public forms::ModalDriver {
+ public:
+  void RunModal(forms::Form& form) override {
+    if (script) script(form);
+  }
+  std::function<void(forms::Form&)> script;
+};
+
+class RecordingObserver final : public forms::FormObserver {
+ public:
+  void FocusRefused(forms::Control& control) override { refused.push_back(control.FullName()); }
+  std::vector<std::string> refused;
+};
+
+// An application with a test form, a second one to open over it, a scripted modal driver and an
+// observer.
+struct Harness {
+  Harness() {
+    app.SetModalDriver(&driver);
+    app.AddObserver(&observer);
+  }
+  ~Harness() { app.RemoveObserver(&observer); }
+  Harness(const Harness&) = delete;
+  Harness& operator=(const Harness&) = delete;
+
+  std::shared_ptr<TestForm> NewForm(const forms::FormDesign& design = kPlainForm) {
+    return std::make_shared<TestForm>(app, design);
+  }
+  forms::Control& C(std::string_view name, int index = -1) { return form->Ctl(name, index); }
+
+  MemoryClipboard clipboard;
+  forms::Application app{clipboard};
+  ScriptedDriver driver;
+  RecordingObserver observer;
+  std::shared_ptr<TestForm> form = NewForm();
+  std::shared_ptr<TestForm> child = NewForm(kChildForm);
+};
+
+}  // namespace nvrandom::forms_test
