@@ -96,6 +96,8 @@ void Application::DeliverSentKeys() {
     const char32_t key = sent_keys_.front();
     sent_keys_.pop_front();
     if (Control* target = Focused()) {
+      // The key's handlers may unload the form: keep it until the key is done.
+      const auto keep = target->form().shared_from_this();
       ++input_depth_;
       try {
         Keystroke(*target, key);

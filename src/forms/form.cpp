@@ -81,6 +81,9 @@ void Form::Hide() {
 
 bool Form::Unload(int16_t mode) {
   if (!loaded_ || unloading_) return loaded_ ? false : true;
+  // Keep this form alive until the runtime has let go of it, also when a handler below unloads
+  // it and the runtime held the last reference.
+  const auto self = shared_from_this();
   int16_t cancel = 0;
   Form_QueryUnload(cancel, mode);
   if (!loaded_) return true;  // the handler unloaded the form itself
@@ -89,8 +92,6 @@ bool Form::Unload(int16_t mode) {
   Form_Unload(cancel);
   unloading_ = false;
   if (cancel != 0 || !loaded_) return !loaded_;
-  // Keep this form alive until the runtime has let go of it.
-  const auto self = shared_from_this();
   visible_ = false;
   modal_ = false;
   loaded_ = false;

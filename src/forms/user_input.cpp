@@ -1,5 +1,6 @@
 #include "forms/user_input.h"
 
+#include <memory>
 #include <string>
 
 #include "forms/application.h"
@@ -12,6 +13,17 @@
 namespace nvrandom::forms::user {
 
 namespace {
+// One piece of user input on a form: the form stays alive until its handlers, and the keys they
+// sent, are done, even when a handler unloads it and nothing else holds it.
+class Input {
+ public:
+  explicit Input(Form& form) : keep_(form.shared_from_this()), scope_(form.app()) {}
+
+ private:
+  std::shared_ptr<Form> keep_;
+  Application::InputScope scope_;
+};
+
 bool Usable(const Control& control) {
   const Form& form = control.form();
   if (form.app().ActiveForm() != &form) return false;
@@ -32,12 +44,12 @@ bool FocusWithin(Control& control) {
 }  // namespace
 
 bool Focus(Control& control) {
-  Application::InputScope scope(control.form().app());
+  const Input input(control.form());
   return FocusWithin(control);
 }
 
 bool Type(Control& control, std::string_view text) {
-  Application::InputScope scope(control.form().app());
+  const Input input(control.form());
   if (!FocusWithin(control)) return false;
   for (const char32_t c : DecodeKeys(text)) {
     if (!control.form().IsLoaded()) break;
@@ -47,29 +59,29 @@ bool Type(Control& control, std::string_view text) {
 }
 
 bool Key(Control& control, int16_t key_ascii) {
-  Application::InputScope scope(control.form().app());
+  const Input input(control.form());
   if (!FocusWithin(control)) return false;
   Keystroke(control, static_cast<char32_t>(static_cast<uint16_t>(key_ascii)));
   return true;
 }
 
 bool KeyDown(Control& control, int16_t key_code, int16_t shift) {
-  Application::InputScope scope(control.form().app());
+  const Input input(control.form());
   if (!FocusWithin(control)) return false;
   KeyDownOnly(control, key_code, shift);
   return true;
 }
 
 bool MouseDown(Control& control, int16_t button) {
-  Application::InputScope scope(control.form().app());
+  const Input input(control.form());
   if (!Usable(control)) return false;
   if (control.events.MouseDown) control.events.MouseDown(button, 0, 0.0F, 0.0F);
   return true;
 }
 
 bool Paste(Control& control, std::string_view text) {
+  const Input input(control.form());
   Application& app = control.form().app();
-  Application::InputScope scope(app);
   if (!FocusWithin(control)) return false;
   app.clipboard().SetText(std::string(text));
   Keystroke(control, static_cast<char32_t>(keys::kPaste));
@@ -77,7 +89,7 @@ bool Paste(Control& control, std::string_view text) {
 }
 
 bool ClearText(Control& control) {
-  Application::InputScope scope(control.form().app());
+  const Input input(control.form());
   if (!FocusWithin(control)) return false;
   control.SetSelStart(0);
   control.SetSelLength(static_cast<int>(utf8::Length(control.Text())));
@@ -86,7 +98,7 @@ bool ClearText(Control& control) {
 }
 
 bool Click(Control& control) {
-  Application::InputScope scope(control.form().app());
+  const Input input(control.form());
   if (!FocusWithin(control)) return false;
   switch (control.kind()) {
     case ControlKind::kCheckBox:
@@ -107,7 +119,7 @@ bool Click(Control& control) {
 }
 
 bool Pick(Control& control, std::string_view value) {
-  Application::InputScope scope(control.form().app());
+  const Input input(control.form());
   if (!FocusWithin(control)) return false;
   const bool by_code = control.kind() == ControlKind::kDataList;
   for (int i = 0; i < control.ListCount(); ++i) {
@@ -122,12 +134,12 @@ bool Pick(Control& control, std::string_view value) {
 }
 
 void CloseBox(Form& form) {
-  Application::InputScope scope(form.app());
+  const Input input(form);
   form.Unload(unload_mode::kCloseBox);
 }
 
 void Shutdown(Form& form) {
-  Application::InputScope scope(form.app());
+  const Input input(form);
   form.Unload(unload_mode::kSystemShutdown);
 }
 
