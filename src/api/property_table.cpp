@@ -1,8 +1,8 @@
 #include "api/property_table.h"
 
 #include <array>
+#include <cctype>
 #include <string>
-#include <unordered_map>
 
 #include "component/context.h"
 #include "component/trace.h"
@@ -110,13 +110,21 @@ const PropertyInfo& Property(PropertyId id) {
 }
 
 const PropertyInfo* FindProperty(std::string_view name) {
-  static const auto* const kByName = [] {
-    auto* map = new std::unordered_map<std::string_view, const PropertyInfo*>();
-    for (const PropertyInfo& p : kProperties) map->emplace(p.name, &p);
-    return map;
-  }();
-  const auto it = kByName->find(name);
-  return it == kByName->end() ? nullptr : it->second;
+  // Member names are matched ignoring case, as a late-bound caller names them.
+  const auto same = [](std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (size_t i = 0; i < a.size(); ++i) {
+      if (std::tolower(static_cast<unsigned char>(a[i])) !=
+          std::tolower(static_cast<unsigned char>(b[i]))) {
+        return false;
+      }
+    }
+    return true;
+  };
+  for (const PropertyInfo& p : kProperties) {
+    if (same(p.name, name)) return &p;
+  }
+  return nullptr;
 }
 
 void LetProperty(Context& ctx, PropertyId id, const Variant& value) {

@@ -159,7 +159,19 @@ void Application::FormShown(Form& form, bool modal) {
   }
   if (!modal || !form.IsLoaded() || !form.Visible()) return;
   const auto keep = form.shared_from_this();
-  if (driver_ != nullptr) driver_->RunModal(form);
+  // A modal show runs a message loop of its own: the input under way waits for it, and keys sent
+  // before it opened reach the dialog, as they would through the platform's input queue.
+  struct NestedLoop {
+    Application& app;
+    int outer_depth = std::exchange(app.input_depth_, 0);
+    bool outer_delivering = std::exchange(app.delivering_, false);
+    ~NestedLoop() {
+      app.input_depth_ = outer_depth;
+      app.delivering_ = outer_delivering;
+    }
+  } nested{*this};
+  DeliverSentKeys();
+  if (driver_ != nullptr && form.IsLoaded() && form.Visible()) driver_->RunModal(form);
   // Without a driver nobody can answer the dialog: it is closed by code, so nothing hangs.
   if (form.IsLoaded() && form.Visible()) form.Unload(unload_mode::kCode);
 }

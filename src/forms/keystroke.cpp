@@ -84,6 +84,21 @@ void DefaultAction(Control& c, int16_t key) {
   }
 }
 
+// The KeyDown stage of a key press: the form's handler first when it previews keys, then the
+// control's. False when a handler discarded the key.
+bool PressKeyDown(Control& control, int16_t& key_code, int16_t& shift) {
+  Form& form = control.form();
+  if (form.KeyPreview()) {
+    form.Form_KeyDown(key_code, shift);
+    if (key_code == 0) return false;
+  }
+  if (control.events.KeyDown) {
+    control.events.KeyDown(key_code, shift);
+    if (key_code == 0) return false;
+  }
+  return true;
+}
+
 // The character stage of a key press: KeyPress (the form's first when it previews keys), then
 // the control's own handling of the key.
 bool PressCharacter(Control& control, int16_t key_ascii) {
@@ -170,20 +185,13 @@ std::vector<char32_t> DecodeKeys(std::string_view text) {
 }
 
 bool KeyDownOnly(Control& control, int16_t key_code, int16_t shift) {
-  Form& form = control.form();
-  if (form.KeyPreview()) {
-    form.Form_KeyDown(key_code, shift);
-    if (key_code == 0) return false;
-  }
-  if (control.events.KeyDown) {
-    control.events.KeyDown(key_code, shift);
-    if (key_code == 0) return false;
-  }
+  if (!PressKeyDown(control, key_code, shift)) return false;
   const bool shift_insert = key_code == keys::kKeyInsert && shift == keys::kShiftMask;
   if (shift_insert && IsTextKind(control.kind())) PasteClipboard(control);
   // Control+V types the paste character, which goes through KeyPress like any other key.
-  if (key_code == keys::kKeyV && shift == keys::kCtrlMask)
+  if (key_code == keys::kKeyV && shift == keys::kCtrlMask) {
     return PressCharacter(control, keys::kPaste);
+  }
   return true;
 }
 
@@ -191,15 +199,7 @@ bool Keystroke(Control& control, char32_t character) {
   const KeyCodeAndShift key = KeyFor(character);
   int16_t key_code = key.key_code;
   int16_t shift = key.shift;
-  Form& form = control.form();
-  if (form.KeyPreview()) {
-    form.Form_KeyDown(key_code, shift);
-    if (key_code == 0) return false;
-  }
-  if (control.events.KeyDown) {
-    control.events.KeyDown(key_code, shift);
-    if (key_code == 0) return false;
-  }
+  if (!PressKeyDown(control, key_code, shift)) return false;
   return PressCharacter(control,
                         character > 0x7FFF ? int16_t{'?'} : static_cast<int16_t>(character));
 }

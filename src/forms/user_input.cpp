@@ -51,9 +51,14 @@ bool Focus(Control& control) {
 bool Type(Control& control, std::string_view text) {
   const Input input(control.form());
   if (!FocusWithin(control)) return false;
+  // As at a keyboard, each key goes to the control that has the focus when it is pressed: a
+  // field that moves the focus on when full passes the rest of the typing to the next field.
+  Application& app = control.form().app();
   for (const char32_t c : DecodeKeys(text)) {
-    if (!control.form().IsLoaded()) break;
-    Keystroke(control, c);
+    Control* target = app.Focused();
+    if (target == nullptr) break;
+    const Input key(target->form());
+    Keystroke(*target, c);
   }
   return true;
 }

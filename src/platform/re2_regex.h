@@ -24,8 +24,19 @@ class Re2Regex final : public RegexService {
   bool Test(std::string_view pattern, std::string_view text, bool ignore_case) override;
 
  private:
+  struct Hash {
+    using is_transparent = void;
+    size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
+  };
+  using Cache = std::unordered_map<std::string, std::unique_ptr<re2::RE2>, Hash, std::equal_to<>>;
+
   const re2::RE2& Compiled(std::string_view pattern, bool ignore_case);
-  std::unordered_map<std::string, std::unique_ptr<re2::RE2>> cache_;
+
+  Cache cache_[2];  // by case sensitivity: [0] exact, [1] ignoring case
+  // The pattern tested last: a check that runs on every keystroke asks for the same one again.
+  std::string_view last_pattern_;
+  bool last_ignore_case_ = false;
+  const re2::RE2* last_ = nullptr;
 };
 
 }  // namespace nvrandom

@@ -29,7 +29,10 @@ class ScenarioRun::EventRecorder final : public ClsRandomEvents {
  private:
   void Record(const char* name, std::optional<int16_t> arg) {
     run_.events_.push_back({name, arg, false});
-    run_.Transcript(std::string("event ") + name + (arg ? " " + std::to_string(*arg) : ""));
+    std::string line = "event ";
+    line += name;
+    if (arg) line += " " + std::to_string(*arg);
+    run_.Transcript(line);
   }
   ScenarioRun& run_;
 };

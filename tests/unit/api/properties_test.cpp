@@ -184,7 +184,7 @@ TEST(Properties, ValuesAreConvertedToThePropertyType) {
 }
 
 // Names that are no property fail with 438; reading a property the host may only set fails with
-// 451.
+// 451. Names are matched ignoring case, as a late-bound host writes them.
 TEST(Properties, NameErrors) {
   Host h;
   ClsRandom cls(h.ctx);
@@ -193,6 +193,8 @@ TEST(Properties, NameErrors) {
   EXPECT_EQ(ErrorOf([&] { cls.Get("DLLPath"); }), 451);
   EXPECT_EQ(ErrorOf([&] { cls.Get("NVMemberType"); }), 451);
   EXPECT_EQ(ErrorOf([&] { cls.Get("PayeeName"); }), 0);
+  cls.Let("payeename", "ACME");
+  EXPECT_EQ(cls.Get("PAYEENAME"), Variant("ACME"));
 }
 
 // The installation root is DLLPath up to and including the separator before the first

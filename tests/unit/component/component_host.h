@@ -14,6 +14,8 @@
 #include "forms/form.h"
 #include "platform/headless/headless_services.h"
 #include "platform/path.h"
+#include "support/scripted_driver.h"
+#include "support/test_files.h"
 
 namespace nvrandom::component_test {
 
@@ -25,35 +27,8 @@ inline std::string P(std::string text) {
   return text;
 }
 
-// A fresh folder below the system's temporary folder, removed with its content at the end.
-class TempRoot {
- public:
-  TempRoot() {
-    static int counter = 0;
-    dir_ = std::filesystem::temp_directory_path() /
-           ("nvrandom-component-" + std::to_string(::getpid()) + "-" + std::to_string(++counter));
-    std::filesystem::create_directories(dir_);
-  }
-  ~TempRoot() {
-    std::error_code ignored;
-    std::filesystem::permissions(dir_, std::filesystem::perms::owner_all,
-                                 std::filesystem::perm_options::add, ignored);
-    std::filesystem::remove_all(dir_, ignored);
-  }
-  TempRoot(const TempRoot&) = delete;
-  TempRoot& operator=(const TempRoot&) = delete;
-
-  const std::filesystem::path& dir() const { return dir_; }
-  // The folder with a trailing separator, as gstrInstallRoot holds it.
-  std::string root() const { return dir_.string() + path::kSeparator; }
-  // A DLLPath inside `norvik_folder` of this root.
-  std::string DllPath(const std::string& norvik_folder = "NORVIK") const {
-    return root() + norvik_folder + path::kSeparator + "Bin";
-  }
-
- private:
-  std::filesystem::path dir_;
-};
+using TempRoot = testing::TempFolder;
+using testing::ReadFile;
 
 // Makes `dir` the current directory for its lifetime (an empty root puts the error log there).
 class CurrentDirectory {
@@ -73,22 +48,7 @@ class CurrentDirectory {
   std::filesystem::path saved_;
 };
 
-inline std::string ReadFile(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
-
-// Runs a script when a modal show starts (a person acting on the dialog); the show ends when the
-// script returns.
-class ScriptedDriver final : public forms::ModalDriver {
- public:
-  void RunModal(forms::Form& form) override {
-    if (script) script(form);
-  }
-  std::function<void(forms::Form&)> script;
-};
+using testing::ScriptedDriver;
 
 // The events a host received.
 struct RecordingSink final : ClsRandomEvents {

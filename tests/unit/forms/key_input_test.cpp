@@ -204,6 +204,49 @@ TEST(KeyInput, SentKeysArriveAfterTheCurrentEventAtTheFocusedControl) {
   EXPECT_EQ(name.Text(), "7");
 }
 
+// Typing goes to whichever control has the focus at each key: a field that moves the focus on
+// when full must not swallow, or refuse, the rest of what the person types.
+TEST(KeyInput, TypingFollowsTheFocus) {
+  Harness h;
+  h.form->Show();
+  forms::Control& name = h.C("txtName");  // holds 5 characters
+  forms::Control& code = h.C("txtCode");
+  name.events.Change = [&] {
+    if (name.Text().size() == 5) h.app.SetFocus(code);
+  };
+  forms::user::Type(name, "abcdefg");
+  EXPECT_EQ(name.Text(), "abcde");
+  EXPECT_EQ(code.Text(), "fg");
+}
+
+// A modal dialog runs its own input loop: keys sent before it opened reach it, and keys its own
+// handlers send arrive while it is open, not after the event that opened it has finished.
+TEST(KeyInput, ModalDialogsReceiveSentKeys) {
+  Harness h;
+  h.form->Show();
+  forms::Control& code = h.C("txtCode");
+  code.events.KeyPress = [&](int16_t& k) {
+    if (k != 13) return;
+    h.app.SendKeys("x");
+    h.child->Show(true);
+  };
+  std::string at_open;
+  std::string after_key;
+  h.driver.script = [&](forms::Form& dialog) {
+    forms::Control& field = dialog.Ctl("txtName");
+    at_open = field.Text();
+    field.events.KeyPress = [&](int16_t& k) {
+      if (k == 'q') h.app.SendKeys("z");
+    };
+    forms::user::Key(field, 'q');
+    after_key = field.Text();
+    dialog.Unload();
+  };
+  forms::user::Key(code, 13);
+  EXPECT_EQ(at_open, "x");
+  EXPECT_EQ(after_key, "xqz");
+}
+
 // SendKeys' notation, as the dialogs write it.
 TEST(KeyInput, SendKeysNotation) {
   const std::vector<char32_t> expected = {'a', 13, 13, 9, 8, 8, '~', '{', 0xE9};

@@ -11,6 +11,7 @@
 #include "forms/control.h"
 #include "forms/form.h"
 #include "platform/memory_clipboard.h"
+#include "support/scripted_driver.h"
 
 namespace nvrandom::forms_test {
 
@@ -86,14 +87,7 @@ class TestForm final : public forms::Form {
   std::function<void(int16_t&)> on_key_press;
 };
 
-// Runs a script when a modal show starts; the show ends when the script returns.
-class ScriptedDriver final : public forms::ModalDriver {
- public:
-  void RunModal(forms::Form& form) override {
-    if (script) script(form);
-  }
-  std::function<void(forms::Form&)> script;
-};
+using testing::ScriptedDriver;
 
 class RecordingObserver final : public forms::FormObserver {
  public:

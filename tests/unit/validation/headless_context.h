@@ -10,6 +10,7 @@
 
 #include "component/context.h"
 #include "platform/headless/headless_services.h"
+#include "support/test_files.h"
 #include "validation/address_rules.h"
 
 namespace nvrandom::testing {
@@ -30,33 +31,5 @@ struct HeadlessContext {
     return ctx;
   }
 };
-
-// A fresh folder below the system's temporary folder, removed with its content at the end.
-class TempFolder {
- public:
-  TempFolder() {
-    static int counter = 0;
-    path_ = std::filesystem::temp_directory_path() /
-            ("nvrandom-validation-" + std::to_string(::getpid()) + "-" + std::to_string(++counter));
-    std::filesystem::create_directories(path_);
-  }
-  ~TempFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  TempFolder(const TempFolder&) = delete;
-  TempFolder& operator=(const TempFolder&) = delete;
-  const std::filesystem::path& path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
-
-inline std::string ReadFile(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
 
 }  // namespace nvrandom::testing

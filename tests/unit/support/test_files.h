@@ -1,0 +1,53 @@
+#pragma once
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "platform/path.h"
+
+namespace nvrandom::testing {
+
+// A fresh folder below the system's temporary folder, removed with its content (whatever
+// permissions a test gave it) at the end.
+class TempFolder {
+ public:
+  TempFolder() {
+    static int counter = 0;
+    path_ = std::filesystem::temp_directory_path() /
+            ("nvrandom-test-" + std::to_string(::getpid()) + "-" + std::to_string(++counter));
+    std::filesystem::create_directories(path_);
+  }
+  ~TempFolder() {
+    std::error_code ignored;
+    std::filesystem::permissions(path_, std::filesystem::perms::owner_all,
+                                 std::filesystem::perm_options::add, ignored);
+    std::filesystem::remove_all(path_, ignored);
+  }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+
+  const std::filesystem::path& path() const { return path_; }
+  const std::filesystem::path& dir() const { return path_; }
+  // The folder with a trailing separator, as gstrInstallRoot holds it.
+  std::string root() const { return path_.string() + path::kSeparator; }
+  // A DLLPath inside `norvik_folder` of this root.
+  std::string DllPath(const std::string& norvik_folder = "NORVIK") const {
+    return root() + norvik_folder + path::kSeparator + "Bin";
+  }
+
+ private:
+  std::filesystem::path path_;
+};
+
+inline std::string ReadFile(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::ostringstream text;
+  text << in.rdbuf();
+  return text.str();
+}
+
+}  // namespace nvrandom::testing
