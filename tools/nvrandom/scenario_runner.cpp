@@ -31,7 +31,10 @@ class ScenarioRun::EventRecorder final : public ClsRandomEvents {
     run_.events_.push_back({name, arg, false});
     std::string line = "event ";
     line += name;
-    if (arg) line += " " + std::to_string(*arg);
+    if (arg) {
+      line += ' ';
+      line += std::to_string(*arg);
+    }
     run_.Transcript(line);
   }
   ScenarioRun& run_;
