@@ -68,41 +68,6 @@ TEST(DialogHosting, ShowFormReturnsTheCloseResult) {
   }
 }
 
-// The embedded dialog is the class's connected instance: cancel, the close box and a system
-// shutdown each end it with result 50000 and exactly one Cancel event; Unload_From_Remote ends it
-// with none.
-TEST(DialogHosting, ShowFormRemoteRelaysOneCancel) {
-  struct Case {
-    const char* what;
-    std::function<void(ClsRandom&, forms::Form&)> close;
-    const char* events;
-    int32_t close_result;
-  };
-  const Case cases[] = {
-      {"cancel button", [](ClsRandom&, forms::Form& f) { forms::user::Click(f.Ctl("cmd_cancel")); },
-       "Cancel;", 50000},
-      {"close box", [](ClsRandom&, forms::Form& f) { forms::user::CloseBox(f); }, "Cancel;", 50000},
-      {"shutdown", [](ClsRandom&, forms::Form& f) { forms::user::Shutdown(f); }, "Cancel;", 50000},
-      {"Unload_From_Remote", [](ClsRandom& c, forms::Form&) { c.Unload_From_Remote(); }, "", 0},
-  };
-  for (const Case& row : cases) {
-    SCOPED_TRACE(row.what);
-    Host h;
-    ClsRandom cls(h.ctx);
-    RecordingSink sink;
-    cls.Advise(sink);
-    EXPECT_EQ(cls.ShowForm_Remote(), 0);
-    forms::Form& dialog = RemoteDialog(h);
-    EXPECT_TRUE(dialog.Visible());
-    EXPECT_FALSE(dialog.IsModal());
-    EXPECT_EQ(dialog.hWnd(), cls.Get_hWnd());
-    row.close(cls, dialog);
-    EXPECT_EQ(sink.log, row.events);
-    EXPECT_EQ(h.ctx.store.closeResult, row.close_result);
-    EXPECT_TRUE(OpenDialogs(h).empty());
-  }
-}
-
 // Unload_From_Remote closes every biller dialog of the component, connected to whichever class,
 // without an event to anyone.
 TEST(DialogHosting, UnloadFromRemoteClosesEveryInstance) {
@@ -136,50 +101,6 @@ TEST(DialogHosting, ConnectedInstanceIsCreatedOnceOnFirstUse) {
   EXPECT_EQ(OpenDialogs(h).size(), 1U);
 }
 
-// Read-only display of an imported biller: its own captions, the cancel button hidden, no field
-// editable; the foreign bank button stays usable (and says so) only when the biller has foreign
-// bank details. The result is 0 however the dialog is closed.
-TEST(DialogHosting, ShowFormImportLocksTheDialog) {
-  struct Case {
-    const char* fx_bank_city;
-    bool frame1_enabled;
-    const char* fx_button;
-  };
-  const Case cases[] = {
-      {"", false, "&Enter Banking Information"},
-      {"   ", false, "&Enter Banking Information"},
-      {"PARIS", true, "View Banking Information"},
-  };
-  for (const Case& row : cases) {
-    SCOPED_TRACE(std::string("PayeeFXBankCity '") + row.fx_bank_city + "'");
-    Host h;
-    ClsRandom cls(h.ctx);
-    cls.PayeeFXBankCity(row.fx_bank_city);
-    bool shown = false;
-    h.driver.script = [&](forms::Form& f) {
-      shown = f.IsModal();
-      EXPECT_EQ(h.ctx.store.importFlag, -1);
-      EXPECT_EQ(f.Ctl("Frame1").Caption(), "Information about this Biller/Payee");
-      EXPECT_EQ(f.Ctl("cmd_ok").Caption(), "Close");
-      EXPECT_FALSE(f.Ctl("cmd_cancel").Visible());
-      EXPECT_FALSE(f.Ctl("Frame3").Enabled());
-      EXPECT_EQ(f.Ctl("Frame1").Enabled(), row.frame1_enabled);
-      EXPECT_EQ(f.Ctl("cmdFXBankingInfo").Caption(), row.fx_button);
-      EXPECT_EQ(Application::Available(f.Ctl("cmdFXBankingInfo")), row.frame1_enabled);
-      for (const auto& c : f.Controls()) {
-        if (c->kind() == forms::ControlKind::kTextBox) {
-          EXPECT_FALSE(Application::Available(*c)) << c->Name() << " is editable";
-        }
-      }
-      EXPECT_TRUE(Application::Available(f.Ctl("cmd_ok")));
-      forms::user::CloseBox(f);
-    };
-    EXPECT_EQ(cls.ShowForm_Import(), 0);
-    EXPECT_TRUE(shown);
-    EXPECT_TRUE(OpenDialogs(h).empty());
-  }
-}
-
 // Each help image opens its own topic of the help file in the installation root (with the
 // "ShowTopic" window type); an index without a topic opens nothing.
 TEST(DialogHosting, HelpTopics) {
@@ -198,23 +119,6 @@ TEST(DialogHosting, HelpTopics) {
     EXPECT_EQ(h.help.calls[i].help_path, P("/opt/bills/NORVIK.CHM>ShowTopic"));
     EXPECT_EQ(h.help.calls[i].topic, i < 6 ? topics[i] : 506000012U);
   }
-}
-
-// Enter on the dialog sends the text "9" to whatever control has the focus once the key is
-// handled, and the Enter itself still reaches the control: on a button it presses it.
-TEST(DialogHosting, EnterTypesANineAndIsPassedOn) {
-  Host h;
-  ClsRandom cls(h.ctx);
-  RecordingSink sink;
-  cls.Advise(sink);
-  cls.ShowForm_Remote();
-  forms::Form& dialog = RemoteDialog(h);
-  forms::user::Key(dialog.Ctl("ran_payee_ph_area"), 13);
-  forms::Control* focused = h.ctx.forms().Focused();
-  ASSERT_NE(focused, nullptr);
-  EXPECT_EQ(focused->Text(), "9");
-  forms::user::Key(dialog.Ctl("cmd_cancel"), 13);
-  EXPECT_EQ(sink.log, "Cancel;");
 }
 
 // Cookies name connections: never 0, one per Advise; Unadvise ends exactly that connection and

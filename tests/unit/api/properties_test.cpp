@@ -59,30 +59,6 @@ TEST(Properties, ClassInitialisationSetsTheDefaults) {
   EXPECT_EQ(list.at(0, 0), "");
 }
 
-// Every instance of a thread works on one record: what one sets the other reads. A new instance
-// resets only what class initialisation names and keeps the rest of what the host set.
-TEST(Properties, InstancesShareOneStore) {
-  Host h;
-  ClsRandom first(h.ctx);
-  first.PayeeName("ACME");
-  first.FormStyle(2);
-  first.WhatKindOfBiller("U");
-  first.CurrencyCodeFromMain("USD");
-  first.CountryListAll("N");
-  first.IPCurrencyList(Variant(StringArray::TwoDimensional(0, 1, 0, 3)));
-  h.ctx.store.importFlag = -1;
-  ClsRandom second(h.ctx);
-  EXPECT_EQ(second.PayeeName(), "ACME");
-  EXPECT_EQ(second.FormStyle(), 2);
-  EXPECT_EQ(first.WhatKindOfBiller(), " ");
-  EXPECT_EQ(first.CurrencyCodeFromMain(), "CAD");
-  EXPECT_EQ(h.ctx.store.gstrCountryListAll, "Y");
-  EXPECT_EQ(h.ctx.store.IPCurrencyList, StringArray::TwoDimensional(0, 0, 0, 0));
-  EXPECT_EQ(h.ctx.store.importFlag, 0);
-  second.PayeeCity("TORONTO");
-  EXPECT_EQ(first.PayeeCity(), "TORONTO");
-}
-
 // Row i of the province table comes from elements (0, i) and (1, i), for i below the array's
 // upper bound in its second dimension: the last column passed is left out. A row past the 21
 // of the table raises error 9 once the rows before it are in; a one-dimensional array has no
@@ -181,20 +157,6 @@ TEST(Properties, ValuesAreConvertedToThePropertyType) {
       stored = "(0 To 0, 0 To 0)";
     EXPECT_EQ(stored, row.stored);
   }
-}
-
-// Names that are no property fail with 438; reading a property the host may only set fails with
-// 451. Names are matched ignoring case, as a late-bound host writes them.
-TEST(Properties, NameErrors) {
-  Host h;
-  ClsRandom cls(h.ctx);
-  EXPECT_EQ(ErrorOf([&] { cls.Let("NoSuchThing", 1); }), 438);
-  EXPECT_EQ(ErrorOf([&] { cls.Get("NoSuchThing"); }), 438);
-  EXPECT_EQ(ErrorOf([&] { cls.Get("DLLPath"); }), 451);
-  EXPECT_EQ(ErrorOf([&] { cls.Get("NVMemberType"); }), 451);
-  EXPECT_EQ(ErrorOf([&] { cls.Get("PayeeName"); }), 0);
-  cls.Let("payeename", "ACME");
-  EXPECT_EQ(cls.Get("PAYEENAME"), Variant("ACME"));
 }
 
 // The installation root is DLLPath up to and including the separator before the first
