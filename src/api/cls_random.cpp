@@ -1,6 +1,5 @@
 #include "api/cls_random.h"
 
-#include <new>
 #include <string>
 
 #include "component/context.h"
@@ -142,12 +141,8 @@ int32_t ClsRandom::ShowForm() {
     dialog = frmRandomInfo::Create(ctx_, nullptr);
     dialog->Show(true);
     result = ctx_.store.closeResult;
-  } catch (const RuntimeError& e) {
-    result = e.number();
-  } catch (const std::bad_alloc&) {
-    result = vb_error::kOutOfMemory;
-  } catch (const std::exception&) {
-    result = vb_error::kInvalidProcedureCall;
+  } catch (...) {
+    result = CurrentErrorNumber();
   }
   if (dialog && dialog->IsLoaded()) {
     try {

@@ -1,5 +1,7 @@
 #include "platform/runtime_error.h"
 
+#include <new>
+#include <stdexcept>
 #include <string>
 
 namespace nvrandom {
@@ -38,5 +40,31 @@ RuntimeError::RuntimeError(int32_t number, const std::string& description)
     : std::runtime_error(description + " (Error " + std::to_string(number) + ")"),
       number_(number),
       description_(description) {}
+
+int32_t CurrentErrorNumber() noexcept {
+  try {
+    throw;
+  } catch (const RuntimeError& error) {
+    return error.number();
+  } catch (const std::bad_alloc&) {
+    return vb_error::kOutOfMemory;
+  } catch (const std::length_error&) {
+    return vb_error::kOutOfMemory;
+  } catch (const std::out_of_range&) {
+    return vb_error::kSubscriptOutOfRange;
+  } catch (...) {
+    return vb_error::kInvalidProcedureCall;
+  }
+}
+
+std::string CurrentErrorDescription() {
+  try {
+    throw;
+  } catch (const RuntimeError& error) {
+    return error.description();
+  } catch (...) {
+    return DefaultErrorDescription(CurrentErrorNumber());
+  }
+}
 
 }  // namespace nvrandom

@@ -38,4 +38,10 @@ class RuntimeError : public std::runtime_error {
   std::string description_;
 };
 
+// Inside a catch block: the platform error number of the exception being handled (its own for a
+// RuntimeError; 7 out of memory for allocation failures; 9 for out-of-range access; else 5).
+int32_t CurrentErrorNumber() noexcept;
+// The same exception's description.
+std::string CurrentErrorDescription();
+
 }  // namespace nvrandom
