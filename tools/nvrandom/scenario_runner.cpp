@@ -219,7 +219,10 @@ bool ScenarioRun::ExecuteHost(const std::vector<Word>& w) {
     out_ << w[1].text << " = " << value << '\n';
   } else if (verb == "file") {
     NeedWords(w, 3);
-    std::ofstream file(tree_.root() + Text(w[1]), std::ios::binary | std::ios::trunc);
+    const std::filesystem::path target = tree_.root() + Text(w[1]);
+    std::error_code ec;
+    std::filesystem::create_directories(target.parent_path(), ec);
+    std::ofstream file(target, std::ios::binary | std::ios::trunc);
     file << Text(w[2]);
     if (!file) Fail("cannot write " + Text(w[1]));
   } else if (verb == "countries") {

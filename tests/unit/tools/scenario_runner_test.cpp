@@ -74,6 +74,9 @@ INSTANTIATE_TEST_SUITE_P(
         // The wrong error number fails.
         RunCase{"wrong_error", "get DLLPath\nexpect error 13\n", 1,
                 ":2: expected error 13, got 451"},
+        // Files are written below the root, their folders made as needed.
+        RunCase{"file", "file \"a/b/c.txt\" \"x\\ty\"\nexpect file \"a/b/c.txt\" \"x\\ty\"\n", 0,
+                ""},
         // Message boxes are matched oldest first; none left over when none was shown.
         RunCase{"nomsg", "expect nomsg\nexpect msg \"x\"\n", 1,
                 ":2: expected message box \"x\", got none"}),
