@@ -9,6 +9,7 @@
 #include "dialogs/biller/random_info_texts.h"
 #include "forms/application.h"
 #include "platform/runtime_error.h"
+#include "validation/address_rules.h"
 #include "validation/text.h"
 
 namespace nvrandom {
@@ -56,18 +57,10 @@ ClsRandom::ClsRandom(Context& ctx) : ctx_(ctx), relay_(std::make_unique<Relay>(*
   s.verifyBusinessNumberFlag = 0;
   s.importFlag = 0;
   s.IPCurrencyList = StringArray::TwoDimensional(0, 0, 0, 0);
-  s.poBoxWords.clear();
-  const std::string_view words = kPoBoxWordList;
-  for (size_t start = 0;;) {
-    const size_t bar = words.find('|', start);
-    s.poBoxWords.emplace_back(words.substr(start, bar - start));
-    if (bar == std::string_view::npos) break;
-    start = bar + 1;
-  }
-  // Assigned from strings, not literals: gcc 12 at -O2 warns falsely (-Wrestrict) on the latter.
-  s.WhatKindOfBiller = std::string(" ");
-  s.CurrencyCodeFromMain = std::string("CAD");
-  s.gstrCountryListAll = std::string("Y");
+  s.poBoxWords = validation::SplitPoBoxWords();
+  s.WhatKindOfBiller = " ";
+  s.CurrencyCodeFromMain = "CAD";
+  s.gstrCountryListAll = "Y";
 }
 
 ClsRandom::~ClsRandom() {
@@ -76,10 +69,7 @@ ClsRandom::~ClsRandom() {
 }
 
 void ClsRandom::Trace(std::string_view procedure) {
-  if (ctx_.store.PlayByPlayEnabled == 0) return;
-  std::string label = "ClsRandom - ";
-  label += procedure;
-  WritePlayByPlay(ctx_, label);
+  TraceEntry(ctx_, "ClsRandom - ", procedure);
 }
 
 void ClsRandom::Let(std::string_view property, const Variant& value) {

@@ -1,7 +1,7 @@
 #include "api/property_table.h"
+#include "platform/ascii.h"
 
 #include <array>
-#include <cctype>
 #include <string>
 
 #include "component/context.h"
@@ -37,11 +37,7 @@ std::string_view LabelName(PropertyId id) {
 }
 
 void TraceProcedure(Context& ctx, PropertyId id, std::string_view verb) {
-  if (ctx.store.PlayByPlayEnabled == 0 || !Property(id).traced) return;
-  std::string label = "ClsRandom - ";
-  label += verb;
-  label += LabelName(id);
-  WritePlayByPlay(ctx, label);
+  if (Property(id).traced) TraceEntry(ctx, "ClsRandom - ", verb, LabelName(id));
 }
 
 // Row i of the table comes from elements (0, i) and (1, i), for i up to the upper bound of the
@@ -111,18 +107,8 @@ const PropertyInfo& Property(PropertyId id) {
 
 const PropertyInfo* FindProperty(std::string_view name) {
   // Member names are matched ignoring case, as a late-bound caller names them.
-  const auto same = [](std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) return false;
-    for (size_t i = 0; i < a.size(); ++i) {
-      if (std::tolower(static_cast<unsigned char>(a[i])) !=
-          std::tolower(static_cast<unsigned char>(b[i]))) {
-        return false;
-      }
-    }
-    return true;
-  };
   for (const PropertyInfo& p : kProperties) {
-    if (same(p.name, name)) return &p;
+    if (ascii::EqualsIgnoreCase(p.name, name)) return &p;
   }
   return nullptr;
 }

@@ -1,4 +1,5 @@
 #include "component/show_error.h"
+#include "platform/ascii.h"
 
 #include <fstream>
 #include <string>
@@ -23,10 +24,6 @@ std::string ErrorMessage(int32_t errNumber, std::string_view description,
 }
 
 namespace {
-
-bool IsBlank(std::string_view s) {
-  return s.find_first_not_of(' ') == std::string_view::npos;
-}
 
 void AppendToErrorLog(Context& ctx, int32_t errNumber, std::string_view description,
                       std::string_view procName) {
@@ -58,8 +55,9 @@ void ShowError(Context& ctx, int32_t errNumber, std::string_view description,
     }
     const std::string message = ErrorMessage(errNumber, description, procName);
     if (!silent) {
-      ctx.services.message_box->Show(message, msgbox::kOKOnly | msgbox::kCritical,
-                                     IsBlank(title) ? std::string_view(kApplicationTitle) : title);
+      ctx.services.message_box->Show(
+          message, msgbox::kOKOnly | msgbox::kCritical,
+          ascii::IsBlank(title) ? std::string_view(kApplicationTitle) : title);
     }
     AppendToErrorLog(ctx, errNumber, description, procName);
   } catch (...) {

@@ -1,4 +1,5 @@
 #include "component/trace.h"
+#include "platform/ascii.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -11,10 +12,6 @@
 namespace nvrandom {
 
 namespace {
-
-bool IsBlank(const std::string& s) {
-  return s.find_first_not_of(' ') == std::string::npos;
-}
 
 std::string ComputeTraceFile(const std::string& root) {
   // The root ends in a separator already; joining "\Norvik\PBP.txt" doubles it on purpose.
@@ -49,7 +46,7 @@ std::string_view TraceFilePath(Context& ctx) {
 
 void WritePlayByPlay(Context& ctx, std::string_view label, bool newFile) {
   if (ctx.store.PlayByPlayEnabled == 0) return;
-  if (IsBlank(ctx.store.gstrInstallRoot)) return;
+  if (ascii::IsBlank(ctx.store.gstrInstallRoot)) return;
   std::string line = ctx.services.clock->Now();
   line += " NVRANDOM - ";
   line += label;

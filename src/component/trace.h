@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "component/context.h"
@@ -15,6 +16,15 @@ void WritePlayByPlay(Context& ctx, std::string_view label, bool newFile = false)
 // The entry convention of every procedure: its label, when tracing is on.
 inline void TraceEntry(Context& ctx, std::string_view label) {
   if (ctx.store.PlayByPlayEnabled != 0) WritePlayByPlay(ctx, label);
+}
+
+// The same for a label in parts ("ClsRandom - ", "Let ", "PayeeName"), joined only when tracing.
+template <class... Parts>
+void TraceEntry(Context& ctx, std::string_view first, const Parts&... rest) {
+  if (ctx.store.PlayByPlayEnabled == 0) return;
+  std::string label(first);
+  (label.append(rest), ...);
+  WritePlayByPlay(ctx, label);
 }
 
 // The trace file's path for the current root, as the trace writes it.

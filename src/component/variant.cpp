@@ -1,4 +1,5 @@
 #include "component/variant.h"
+#include "platform/ascii.h"
 
 #include <cctype>
 #include <cmath>
@@ -102,16 +103,6 @@ int16_t ToInt16(double value) {
   return static_cast<int16_t>(rounded);
 }
 
-bool EqualsIgnoreCase(const std::string& a, const char* b) {
-  size_t i = 0;
-  for (; i < a.size() && b[i] != '\0'; ++i) {
-    if (std::tolower(static_cast<unsigned char>(a[i])) !=
-        std::tolower(static_cast<unsigned char>(b[i])))
-      return false;
-  }
-  return i == a.size() && b[i] == '\0';
-}
-
 }  // namespace
 
 std::string ToText(const Variant& v) {
@@ -131,8 +122,8 @@ int16_t ToInteger(const Variant& v) {
 int16_t ToFlag(const Variant& v) {
   if (const auto* n = std::get_if<int32_t>(&v.value)) return *n != 0 ? -1 : 0;
   if (const auto* s = std::get_if<std::string>(&v.value)) {
-    if (EqualsIgnoreCase(*s, "True")) return -1;
-    if (EqualsIgnoreCase(*s, "False")) return 0;
+    if (ascii::EqualsIgnoreCase(*s, "True")) return -1;
+    if (ascii::EqualsIgnoreCase(*s, "False")) return 0;
     return ParseNumber(*s) != 0 ? -1 : 0;
   }
   if (v.is_empty()) return 0;

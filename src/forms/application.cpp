@@ -21,13 +21,23 @@ Control* Application::Focused() const {
   return form != nullptr ? form->ActiveControl() : nullptr;
 }
 
-bool Application::Available(const Control& control) {
-  const Form& form = control.form();
-  if (!form.IsLoaded() || !form.Visible() || !control.CanFocus()) return false;
+namespace {
+// The control and every container around it are visible and enabled.
+bool ShownAndEnabled(const Control& control) {
   for (const Control* c = &control; c != nullptr; c = c->Container()) {
     if (!c->Visible() || !c->Enabled()) return false;
   }
   return true;
+}
+}  // namespace
+
+bool Application::Available(const Control& control) {
+  const Form& form = control.form();
+  return form.IsLoaded() && form.Visible() && control.CanFocus() && ShownAndEnabled(control);
+}
+
+bool Application::TakesInput(const Control& control) const {
+  return ActiveForm() == &control.form() && ShownAndEnabled(control);
 }
 
 bool Application::SetFocus(Control& control) {

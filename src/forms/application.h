@@ -60,6 +60,9 @@ class Application {
   // Whether the control can take the focus: its form is shown and it and all its containers are
   // visible and enabled.
   static bool Available(const Control& control);
+  // Whether the control takes the mouse: the same, for any kind of control (labels and images
+  // too), on the front-most form.
+  bool TakesInput(const Control& control) const;
   // Moves the focus (LostFocus on the old control with ActiveControl already moved, then
   // GotFocus). A request for an unavailable control leaves the focus where it is, raises nothing
   // and is reported to the observers; returns false then.

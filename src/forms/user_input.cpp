@@ -24,17 +24,8 @@ class Input {
   Application::InputScope scope_;
 };
 
-bool Usable(const Control& control) {
-  const Form& form = control.form();
-  if (form.app().ActiveForm() != &form) return false;
-  for (const Control* c = &control; c != nullptr; c = c->Container()) {
-    if (!c->Visible() || !c->Enabled()) return false;
-  }
-  return true;
-}
-
 bool FocusWithin(Control& control) {
-  if (!control.CanFocus()) return Usable(control);
+  if (!control.CanFocus()) return control.form().app().TakesInput(control);
   if (!Application::Available(control)) {
     control.form().app().SetFocus(control);  // reported to observers as refused
     return false;
@@ -79,7 +70,7 @@ bool KeyDown(Control& control, int16_t key_code, int16_t shift) {
 
 bool MouseDown(Control& control, int16_t button) {
   const Input input(control.form());
-  if (!Usable(control)) return false;
+  if (!control.form().app().TakesInput(control)) return false;
   if (control.events.MouseDown) control.events.MouseDown(button, 0, 0.0F, 0.0F);
   return true;
 }

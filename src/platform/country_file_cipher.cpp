@@ -1,11 +1,11 @@
 #include "platform/country_file_cipher.h"
+#include "platform/path.h"
 
 #include <openssl/evp.h>
 #include <openssl/rand.h>
 
 #include <array>
 #include <fstream>
-#include <iterator>
 #include <memory>
 
 namespace nvrandom::country_file {
@@ -39,12 +39,6 @@ std::optional<std::string> Run(bool encipher, const unsigned char* iv, std::stri
   return out;
 }
 
-std::optional<std::string> ReadFile(const std::string& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
-
 bool WriteFile(const std::string& file, const std::string& data) {
   std::ofstream out(file, std::ios::binary | std::ios::trunc);
   return static_cast<bool>(out << data);
@@ -70,15 +64,10 @@ std::optional<std::string> Decipher(std::string_view enciphered) {
 }
 
 bool DecipherFile(const std::string& from, const std::string& to) {
-  const auto data = ReadFile(from);
+  const auto data = path::ReadFile(from);
   if (!data) return false;
   const auto plain = Decipher(*data);
   return plain && WriteFile(to, *plain);
-}
-
-bool EncipherFile(const std::string& from, const std::string& to) {
-  const auto data = ReadFile(from);
-  return data && WriteFile(to, Encipher(*data));
 }
 
 }  // namespace nvrandom::country_file

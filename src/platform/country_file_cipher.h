@@ -15,7 +15,5 @@ std::optional<std::string> Decipher(std::string_view enciphered);
 
 // Deciphers the file `from` into the file `to`; false (and `to` untouched) on any failure.
 bool DecipherFile(const std::string& from, const std::string& to);
-// Enciphers the file `from` into the file `to`; false on any failure.
-bool EncipherFile(const std::string& from, const std::string& to);
 
 }  // namespace nvrandom::country_file

@@ -4,6 +4,9 @@
 #include <sys/stat.h>
 
 #include <dirent.h>
+
+#include <fstream>
+#include <iterator>
 #include <string>
 
 namespace nvrandom::path {
@@ -31,6 +34,14 @@ std::string ResolveFolder(const std::string& dir, std::string_view name) {
   }
   ::closedir(d);
   return found.empty() ? exact : found;
+}
+
+std::optional<std::string> ReadFile(const std::string& file) {
+  std::ifstream in(file, std::ios::binary);
+  if (!in) return std::nullopt;
+  std::string content((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  if (in.bad()) return std::nullopt;
+  return content;
 }
 
 bool FileExists(const std::string& file) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,5 +22,8 @@ std::string Join(std::string_view root, std::string_view name);
 std::string ResolveFolder(const std::string& dir, std::string_view name);
 
 bool FileExists(const std::string& file);
+
+// The whole content of a file, byte for byte; nullopt when it cannot be read.
+std::optional<std::string> ReadFile(const std::string& file);
 
 }  // namespace nvrandom::path

@@ -62,13 +62,6 @@ bool IsAlpha(std::string_view text) {
   return false;
 }
 
-std::string_view TrimBlanks(std::string_view text) {
-  const size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  const size_t last = text.find_last_not_of(' ');
-  return text.substr(first, last - first + 1);
-}
-
 size_t CharacterCount(std::string_view text) {
   return forms::utf8::Length(text);
 }

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/ascii.h"
+
 namespace nvrandom::validation {
 
 // Texts are UTF-8 as the form runtime holds them. Where a rule counts characters (padding,
@@ -27,8 +29,7 @@ std::string PadRight(std::string_view text, int length);
 // as alphabetic, "12" does not.
 bool IsAlpha(std::string_view text);
 
-// The text without leading and trailing blanks (spaces only, as the platform's Trim).
-std::string_view TrimBlanks(std::string_view text);
+using ascii::TrimBlanks;
 
 // Number of characters of `text`, and its first `count` characters.
 size_t CharacterCount(std::string_view text);

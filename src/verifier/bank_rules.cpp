@@ -1,4 +1,5 @@
 #include "verifier/bank_rules.h"
+#include "platform/ascii.h"
 
 #include <algorithm>
 #include <array>
@@ -6,12 +7,6 @@
 namespace nvrandom::verifier {
 
 namespace {
-
-std::string_view Trimmed(std::string_view text) {
-  const size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
@@ -60,7 +55,7 @@ constexpr std::array<std::string_view, 6> kProgramIdentifiers = {"RC", "RM", "RP
                                                                  "RR", "RT", "RZ"};
 
 CheckOutcome CheckTransit(std::string_view transit) {
-  const std::string_view t = Trimmed(transit);
+  const std::string_view t = ascii::TrimBlanks(transit);
   if (t.empty()) return Refused("Please enter the transit number of the branch.");
   if (t.size() != 5 || !AllDigits(t)) return Refused("The transit number must have 5 digits.");
   if (AllZeros(t)) return Refused("The transit number cannot be 00000.");
@@ -71,7 +66,7 @@ CheckOutcome CheckTransit(std::string_view transit) {
 
 BankIdReading ReadBankId(std::string_view bank_id) {
   BankIdReading reading;
-  const std::string_view id = Trimmed(bank_id);
+  const std::string_view id = ascii::TrimBlanks(bank_id);
   if (id.empty()) {
     reading.error = "Please enter the Bank ID.";
   } else if (!AllDigits(id)) {
@@ -110,13 +105,13 @@ CheckOutcome CheckBankAccount(std::string_view bank_id, std::string_view transit
     CheckOutcome branch = CheckTransit(transit);
     if (branch.result != check_result::kValid) return branch;
   }
-  return CheckAccountNumber(reading.institution, Trimmed(account));
+  return CheckAccountNumber(reading.institution, ascii::TrimBlanks(account));
 }
 
 CheckOutcome CheckAccount(std::string_view bank_id, std::string_view account) {
   BankIdReading reading = ReadBankId(bank_id);
   if (!reading.error.empty()) return Refused(std::move(reading.error));
-  return CheckAccountNumber(reading.institution, Trimmed(account));
+  return CheckAccountNumber(reading.institution, ascii::TrimBlanks(account));
 }
 
 CheckOutcome CheckAccountNumber(const Institution* institution, std::string_view account) {

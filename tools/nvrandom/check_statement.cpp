@@ -1,10 +1,11 @@
 #include "check_statement.h"
 
 #include <array>
-#include <charconv>
+#include <cstdint>
 #include <stdexcept>
 
 #include "dialogs/biller/web_address_checks.h"
+#include "scenario_line.h"
 #include "validation/random.h"
 
 namespace nvrandom::scenario {
@@ -18,14 +19,12 @@ int32_t Truth(bool value) {
 }
 
 int16_t IntegerArg(std::string_view function, const std::string& text) {
-  int value = 0;
-  const char* end = text.data() + text.size();
-  const auto [ptr, error] = std::from_chars(text.data(), end, value);
-  if (error != std::errc() || ptr != end || value < INT16_MIN || value > INT16_MAX) {
+  const auto value = ParseInteger(text);
+  if (!value || *value < INT16_MIN || *value > INT16_MAX) {
     throw std::invalid_argument(std::string(function) + ": \"" + text +
                                 "\" is not an integer from -32768 to 32767");
   }
-  return static_cast<int16_t>(value);
+  return static_cast<int16_t>(*value);
 }
 
 bool FlagArg(std::string_view function, const std::string& text) {

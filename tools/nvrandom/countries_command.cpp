@@ -1,23 +1,21 @@
 #include "countries_command.h"
 
-#include <fstream>
 #include <iostream>
-#include <iterator>
 
 #include "installation_tree.h"
 #include "platform/country_file_cipher.h"
+#include "platform/path.h"
 
 namespace nvrandom {
 
 int CountriesCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
   if (args.size() == 3 && args[0] == "encipher") {
-    std::ifstream in(args[1], std::ios::binary);
-    if (!in) {
+    const auto plain = path::ReadFile(args[1]);
+    if (!plain) {
       err << "cannot read " << args[1] << '\n';
       return 1;
     }
-    const std::string plain((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    if (!scenario::WriteCountryFile(args[2], plain)) {
+    if (!scenario::WriteCountryFile(args[2], *plain)) {
       err << "cannot write " << args[2] << '\n';
       return 1;
     }
@@ -36,10 +34,9 @@ int CountriesCommand(const std::vector<std::string>& args, std::ostream& out, st
       out << scenario::SampleCountries();
       return 0;
     }
-    std::ifstream in(args[1], std::ios::binary);
-    const std::string data((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    const auto plain = country_file::Decipher(data);
-    if (!in || !plain) {
+    const auto data = path::ReadFile(args[1]);
+    const auto plain = data ? country_file::Decipher(*data) : std::nullopt;
+    if (!plain) {
       err << args[1] << " is not an enciphered country file\n";
       return 1;
     }

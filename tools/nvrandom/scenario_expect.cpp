@@ -8,6 +8,8 @@
 #include "forms/form.h"
 #include "forms/utf8_text.h"
 #include "installation_tree.h"
+#include "platform/ascii.h"
+#include "platform/path.h"
 #include "platform/runtime_error.h"
 #include "scenario_runner.h"
 #include "scenario_values.h"
@@ -42,25 +44,15 @@ std::string ShownText(const forms::Control& c) {
   }
 }
 
-std::string ReadWhole(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
-
 // Files under `root` whose name is `name` (ignoring case, as the platform's file system does).
 std::vector<fs::path> FilesNamed(const std::string& root, std::string_view name) {
   std::vector<fs::path> found;
   std::error_code ec;
   for (auto it = fs::recursive_directory_iterator(root, ec); !ec && it != fs::end(it);
        it.increment(ec)) {
-    const std::string file = it->path().filename().string();
-    if (file.size() != name.size() || !it->is_regular_file(ec)) continue;
-    bool same = true;
-    for (size_t i = 0; i < file.size() && same; ++i) {
-      same = std::tolower(static_cast<unsigned char>(file[i])) ==
-             std::tolower(static_cast<unsigned char>(name[i]));
+    if (it->is_regular_file(ec) && ascii::EqualsIgnoreCase(it->path().filename().string(), name)) {
+      found.push_back(it->path());
     }
-    if (same) found.push_back(it->path());
   }
   return found;
 }
@@ -196,7 +188,7 @@ void ScenarioRun::ExpectFiles(const std::string& what, const std::vector<Word>& 
     const std::string ending = "NVRANDOM - " + Text(w[2]);
     bool found = false;
     for (const auto& file : files) {
-      for (const std::string& line : Lines(ReadWhole(file)))
+      for (const std::string& line : Lines(path::ReadFile(file.string()).value_or("")))
         found = found || EndsWith(line, ending);
     }
     if (what == "trace" && !found) {
@@ -209,7 +201,7 @@ void ScenarioRun::ExpectFiles(const std::string& what, const std::vector<Word>& 
     const std::string want = Text(w[2]);
     bool found = false;
     for (const auto& file : FilesNamed(tree_.root(), "error.log")) {
-      for (const std::string& line : Lines(ReadWhole(file))) {
+      for (const std::string& line : Lines(path::ReadFile(file.string()).value_or(""))) {
         found = found || line.find(want) != std::string::npos;
       }
     }
@@ -220,7 +212,7 @@ void ScenarioRun::ExpectFiles(const std::string& what, const std::vector<Word>& 
     std::error_code ec;
     if (!fs::is_regular_file(file, ec)) {
       Fail("expected file " + Text(w[2]) + ", got none");
-    } else if (ReadWhole(file).find(Text(w[3])) == std::string::npos) {
+    } else if (path::ReadFile(file.string()).value_or("").find(Text(w[3])) == std::string::npos) {
       Fail("expected " + Text(w[2]) + " to contain " + Quote(Text(w[3])));
     }
   }

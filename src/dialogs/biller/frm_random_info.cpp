@@ -49,10 +49,7 @@ void frmRandomInfo::LockForImport(bool has_foreign_bank) {
 }
 
 void frmRandomInfo::Trace(std::string_view procedure) {
-  if (ctx_.store.PlayByPlayEnabled == 0) return;
-  std::string label = random_info_text::kLabelPrefix;
-  label += procedure;
-  WritePlayByPlay(ctx_, label);
+  TraceEntry(ctx_, random_info_text::kLabelPrefix, procedure);
 }
 
 void frmRandomInfo::RaiseCancel() {

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/ascii.h"
 #include "platform/general_date.h"
 #include "platform/memory_clipboard.h"
 #include "platform/path.h"
@@ -34,14 +35,8 @@ bool RunProgram(const char* program, const std::string& argument) {
 }
 
 bool HasWebScheme(std::string_view address) {
-  const auto starts = [&](std::string_view prefix) {
-    if (address.size() < prefix.size()) return false;
-    for (size_t i = 0; i < prefix.size(); ++i) {
-      if (std::tolower(static_cast<unsigned char>(address[i])) != prefix[i]) return false;
-    }
-    return true;
-  };
-  return starts("http://") || starts("https://");
+  return ascii::StartsWithIgnoreCase(address, "http://") ||
+         ascii::StartsWithIgnoreCase(address, "https://");
 }
 
 // Without a window system there is nobody to ask: every box takes its default button.
