@@ -22,7 +22,8 @@ constexpr LengthSet LengthRange(int from, int to) {
   for (int n = from; n <= to; ++n) set |= Lengths(n);
   return set;
 }
-// What an account may look like where nothing narrower is known.
+// What any Canadian account may look like (7 to 12 digits, as gocardless/ibandit reads them):
+// the rule of an institution the table does not know.
 inline constexpr LengthSet kAnyAccountLength = LengthRange(7, 12);
 
 struct Institution {
@@ -32,7 +33,8 @@ struct Institution {
   LengthSet account_lengths;
 };
 
-// The institutions the built-in verifier knows, ordered by number.
+// The institutions the built-in verifier knows, ordered by number: the rows of
+// data/institutions.csv, compiled in and read on first use.
 std::span<const Institution> KnownInstitutions();
 
 // The institution with this number, or null.
