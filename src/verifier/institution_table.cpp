@@ -13,8 +13,8 @@ constexpr std::string_view kBusinessNumberAccounts = "business-number";
 constexpr int kLongestAccount = 30;
 
 bool AllDigits(std::string_view text) {
-  return !text.empty() && std::all_of(text.begin(), text.end(),
-                                      [](char c) { return c >= '0' && c <= '9'; });
+  return !text.empty() &&
+         std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
 // Messages are shown by hosts that take them as ANSI text: names stay within printable ASCII.
@@ -143,7 +143,8 @@ InstitutionTable ReadInstitutionTable(std::string_view csv, std::string_view sou
   ForEachLine(csv, [&](size_t number, std::string_view line) {
     const std::string where = "line " + std::to_string(number) + ": ";
     if (number == 1) {
-      if (line != kHeading) table.errors.push_back(where + "the heading must be " + std::string(kHeading));
+      if (line != kHeading)
+        table.errors.push_back(where + "the heading must be " + std::string(kHeading));
       return;
     }
     if (line.empty()) return;
