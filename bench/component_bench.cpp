@@ -16,7 +16,7 @@
 #include "forms/application.h"
 #include "forms/form.h"
 #include "forms/user_input.h"
-#include "platform/headless/headless_services.h"
+#include "app/headless_services.h"
 #include "platform/path.h"
 
 namespace nvrandom {

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "component/context.h"
-#include "platform/headless/headless_services.h"
+#include "app/headless_services.h"
 #include "validation/address_rules.h"
 
 namespace nvrandom::fuzz {

@@ -18,13 +18,11 @@ AccountFault FindAccountFault(std::string_view account) {
   return valid ? AccountFault::kNone : AccountFault::kInvalidCharacters;
 }
 
-std::string AccountCheckBankId(std::string_view bank_id) {
-  constexpr int kBankIdLength = 6;
+std::string_view AccountCheckBankId(std::string_view bank_id, int bank_id_length) {
   const std::string_view trimmed = TrimBlanks(bank_id);
-  if (CharacterCount(trimmed) == kBankIdLength + 1) {
-    return PadLeft(LeftCharacters(trimmed, kBankIdLength), kBankIdLength);
-  }
-  return PadLeft(bank_id, kBankIdLength);
+  if (CharacterCount(trimmed) == static_cast<size_t>(bank_id_length) + 1)
+    return LeftCharacters(trimmed, bank_id_length);
+  return bank_id;
 }
 
 std::optional<std::string> BusinessNumberAccount(std::string_view number) {

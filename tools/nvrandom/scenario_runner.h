@@ -9,7 +9,7 @@
 
 #include "api/cls_random.h"
 #include "forms/application.h"
-#include "platform/headless/headless_services.h"
+#include "app/headless_services.h"
 #include "scenario_line.h"
 
 namespace nvrandom {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -119,6 +120,24 @@ TEST(DialogHosting, HelpTopics) {
     EXPECT_EQ(h.help.calls[i].help_path, P("/opt/bills/NORVIK.CHM>ShowTopic"));
     EXPECT_EQ(h.help.calls[i].topic, i < 6 ? topics[i] : 506000012U);
   }
+}
+
+// A host may release the class inside its own event handler: the event still reaches the sinks
+// connected after that one, and nothing released is touched while the event is raised (the
+// address sanitizer reports it otherwise). Every event is relayed by the same code.
+TEST(DialogHosting, HostReleasesTheClassInsideItsCancelHandler) {
+  Host h;
+  auto cls = std::make_unique<ClsRandom>(h.ctx);
+  ClsRandomCallbacks releaser;
+  releaser.OnCancel = [&] { cls.reset(); };
+  RecordingSink later;
+  cls->Advise(releaser);
+  cls->Advise(later);
+  cls->ShowForm_Remote();
+  forms::user::Click(RemoteDialog(h).Ctl("cmd_cancel"));
+  EXPECT_EQ(cls, nullptr);
+  EXPECT_EQ(later.log, "Cancel;");
+  EXPECT_TRUE(OpenDialogs(h).empty());
 }
 
 // Cookies name connections: never 0, one per Advise; Unadvise ends exactly that connection and

@@ -29,16 +29,15 @@ int ErrorOf(const std::function<void()>& f) {
 TEST(Properties, ClassInitialisationSetsTheDefaults) {
   Host h;
   ClsRandom cls(h.ctx);
-  for (size_t i = 0; i < kPropertyCount; ++i) {
-    const PropertyInfo& p = Property(static_cast<PropertyId>(i));
-    if (!p.can_get) continue;
+  for (const MemberInfo& p : Members()) {
+    if (p.kind != MemberKind::kProperty || !p.can_get) continue;
     SCOPED_TRACE(std::string(p.name));
     const Variant value = cls.Get(p.name);
     if (p.name == "WhatKindOfBiller") {
       EXPECT_EQ(value, Variant(" "));
     } else if (p.name == "CurrencyCodeFromMain") {
       EXPECT_EQ(value, Variant("CAD"));
-    } else if (p.type == PropertyType::kString) {
+    } else if (p.property_type == PropertyType::kString) {
       EXPECT_EQ(value, Variant(""));
     } else {
       EXPECT_EQ(value, Variant(0));

@@ -12,7 +12,7 @@
 #include "component/context.h"
 #include "forms/application.h"
 #include "forms/form.h"
-#include "platform/headless/headless_services.h"
+#include "app/headless_services.h"
 #include "platform/path.h"
 #include "support/scripted_driver.h"
 #include "support/test_files.h"

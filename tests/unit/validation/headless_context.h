@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "component/context.h"
-#include "platform/headless/headless_services.h"
+#include "app/headless_services.h"
 #include "support/test_files.h"
 #include "validation/address_rules.h"
 

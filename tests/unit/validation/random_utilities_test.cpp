@@ -6,7 +6,7 @@
 
 #include "component/show_error.h"
 #include "headless_context.h"
-#include "platform/headless/headless_services.h"
+#include "app/headless_services.h"
 #include "platform/message_box.h"
 #include "validation/random.h"
 
