@@ -6,13 +6,13 @@
 #include <vector>
 
 #include "api/cls_random.h"
-#include "component/component_host.h"
 #include "dialogs/biller/frm_random_info.h"
 #include "dialogs/biller/random_info_design.h"
 #include "forms/user_input.h"
 #include "platform/runtime_error.h"
+#include "support/test_host.h"
 
-namespace nvrandom::component_test {
+namespace nvrandom::testing {
 namespace {
 
 using forms::Application;
@@ -186,4 +186,4 @@ TEST(DialogHosting, DialogOutlivesItsClass) {
 }
 
 }  // namespace
-}  // namespace nvrandom::component_test
+}  // namespace nvrandom::testing

@@ -6,11 +6,11 @@
 
 #include "api/cls_random.h"
 #include "api/property_table.h"
-#include "component/component_host.h"
 #include "component/store.h"
 #include "platform/runtime_error.h"
+#include "support/test_host.h"
 
-namespace nvrandom::component_test {
+namespace nvrandom::testing {
 namespace {
 
 // Runs `f` and gives the run-time error number it raised, 0 for none.
@@ -21,41 +21,6 @@ int ErrorOf(const std::function<void()>& f) {
     return e.number();
   }
   return 0;
-}
-
-// A new instance reads " " for the kind of biller, "CAD" for the host's currency and empty for
-// every biller field; the store holds the 15 post-office-box words and a (0 To 0, 0 To 0)
-// currency list.
-TEST(Properties, ClassInitialisationSetsTheDefaults) {
-  Host h;
-  ClsRandom cls(h.ctx);
-  for (const MemberInfo& p : Members()) {
-    if (p.kind != MemberKind::kProperty || !p.can_get) continue;
-    SCOPED_TRACE(std::string(p.name));
-    const Variant value = cls.Get(p.name);
-    if (p.name == "WhatKindOfBiller") {
-      EXPECT_EQ(value, Variant(" "));
-    } else if (p.name == "CurrencyCodeFromMain") {
-      EXPECT_EQ(value, Variant("CAD"));
-    } else if (p.property_type == PropertyType::kString) {
-      EXPECT_EQ(value, Variant(""));
-    } else {
-      EXPECT_EQ(value, Variant(0));
-    }
-  }
-  EXPECT_EQ(h.ctx.store.gstrCountryListAll, "Y");
-  const std::vector<std::string> words = {
-      "PO BOX",     "P.O. BOX",        "P.O.BOX",      "P.O BOX", "POST OFFICE BOX",
-      "POSTAL BOX", "POST-OFFICE BOX", "CP",           "C.P.",    "C.P.POSTALE",
-      "BOITE",      "BOITE POSTALE",   "CASE POSTALE", "BP",      "B.P."};
-  EXPECT_EQ(h.ctx.store.poBoxWords, words);
-  const StringArray& list = h.ctx.store.IPCurrencyList;
-  EXPECT_EQ(list.dimensions(), 2);
-  EXPECT_EQ(list.LBound(1), 0);
-  EXPECT_EQ(list.UBound(1), 0);
-  EXPECT_EQ(list.LBound(2), 0);
-  EXPECT_EQ(list.UBound(2), 0);
-  EXPECT_EQ(list.at(0, 0), "");
 }
 
 // Row i of the province table comes from elements (0, i) and (1, i), for i below the array's
@@ -189,4 +154,4 @@ TEST(Properties, DllPathDerivesTheInstallationRoot) {
 }
 
 }  // namespace
-}  // namespace nvrandom::component_test
+}  // namespace nvrandom::testing

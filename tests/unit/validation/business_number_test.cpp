@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "headless_context.h"
-#include "recording_verifier.h"
+#include "support/recording_verifier.h"
+#include "support/test_host.h"
 #include "validation/random.h"
 
 namespace nvrandom {
@@ -19,12 +19,12 @@ struct BusinessNumberRow {
 class BusinessNumberTest : public ::testing::TestWithParam<BusinessNumberRow> {};
 
 TEST_P(BusinessNumberTest, LocalRulesThenTheRegistrysRule) {
-  testing::HeadlessContext h;
+  testing::Host h;
   EXPECT_EQ(Random(h.ctx).VerifyBusinessNumber(GetParam().number), GetParam().expected);
   EXPECT_TRUE(h.boxes.shown.empty());
 
   // The same number against a verifier that records whether it was asked.
-  testing::HeadlessContext recorded;
+  testing::Host recorded;
   testing::VerifierScript script;
   recorded.ctx.services.verifiers = std::make_shared<testing::RecordingVerifierFactory>(script);
   Random(recorded.ctx).VerifyBusinessNumber(GetParam().number);
@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
         BusinessNumberRow{"1234567.8", kFalse, false}));
 
 TEST(BusinessNumber, IsVerifiedAsAnAccountOfTheRegistry) {
-  testing::HeadlessContext h;
+  testing::Host h;
   testing::VerifierScript script;
   script.result = 2;  // any answer but 0 accepts the number
   h.ctx.services.verifiers = std::make_shared<testing::RecordingVerifierFactory>(script);
