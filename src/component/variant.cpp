@@ -1,6 +1,5 @@
 #include "component/variant.h"
 
-#include <cctype>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -82,8 +81,7 @@ double ParseNumber(const std::string& text) {
   const std::string core = text.substr(b, e - b);
   if (core.empty()) throw RuntimeError(vb_error::kTypeMismatch);
   for (const char c : core) {
-    if (!(std::isdigit(static_cast<unsigned char>(c)) || c == '.' || c == '+' || c == '-' ||
-          c == 'e' || c == 'E')) {
+    if (!(ascii::IsDigit(c) || c == '.' || c == '+' || c == '-' || c == 'e' || c == 'E')) {
       throw RuntimeError(vb_error::kTypeMismatch);
     }
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/ascii.h"
 #include "validation/number_text.h"
 #include "validation/text.h"
 
@@ -12,9 +13,8 @@ AccountFault FindAccountFault(std::string_view account) {
   if (account.find(' ') != std::string_view::npos) return AccountFault::kContainsBlank;
   // Without blanks the account is its own trimmed form.
   if (CharacterCount(account) < 4) return AccountFault::kTooShort;
-  const bool valid = std::all_of(account.begin(), account.end(), [](char c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z');
-  });
+  const bool valid = std::all_of(account.begin(), account.end(),
+                                 [](char c) { return ascii::IsDigit(c) || ascii::IsUpper(c); });
   return valid ? AccountFault::kNone : AccountFault::kInvalidCharacters;
 }
 

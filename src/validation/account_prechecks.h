@@ -23,9 +23,6 @@ AccountFault FindAccountFault(std::string_view account);
 // `bank_id_length` loses its last character; any other id is kept as given.
 std::string_view AccountCheckBankId(std::string_view bank_id, int bank_id_length);
 
-// The bank id under which business numbers are verified.
-inline constexpr std::string_view kBusinessNumberBankId = "001003";
-
 // The account value under which a business number is verified: its first nine characters and
 // "RT0001"; nothing when the number is refused before that (empty, shorter than nine characters,
 // first nine not numeric, first eight a made-up number such as 12345678 or 11111111).

@@ -11,7 +11,8 @@ namespace {
 // where they are known for certain; elsewhere any length from 7 to 12 digits.
 constexpr std::array kInstitutions = {
     Institution{"001", "Bank of Montreal", AccountRule::kDigits, Lengths(7)},
-    Institution{"001003", "Business number registry", AccountRule::kBusinessProgram, 0},
+    Institution{kBusinessNumberRegistry, "Business number registry", AccountRule::kBusinessProgram,
+                0},
     Institution{"002", "Bank of Nova Scotia", AccountRule::kDigits, Lengths(7) | Lengths(12)},
     Institution{"003", "Royal Bank of Canada", AccountRule::kDigits, Lengths(7)},
     Institution{"004", "Toronto-Dominion Bank", AccountRule::kDigits, Lengths(7)},
