@@ -4,7 +4,11 @@
 #include <mutex>
 #include <utility>
 
+#ifdef _WIN32
+#include "platform/win32/win32_services.h"
+#else
 #include "platform/posix/posix_services.h"
+#endif
 #include "verifier/builtin_account_verifier.h"
 #include "verifier/builtin_bank_check_library.h"
 
@@ -34,7 +38,11 @@ void AddComponentServices(Services& services) {
 }
 
 Services MakePlatformServices() {
+#ifdef _WIN32
+  Services services = MakeWin32Services();
+#else
   Services services = MakePosixServices();
+#endif
   AddComponentServices(services);
   return services;
 }

@@ -15,7 +15,8 @@ namespace nvrandom::app {
 // verifier and bank-check library. Fills only the members that are still empty.
 void AddComponentServices(Services& services);
 
-// The platform's services plus the component's: POSIX today, the Win32 ones in a Windows build.
+// The platform's services plus the component's: POSIX, or in a Windows build the Win32 ones
+// (platform/win32, MakeWin32Services, which the Windows port provides).
 Services MakePlatformServices();
 
 // What the default component state of a thread is built with. A view (Qt) or the COM server
