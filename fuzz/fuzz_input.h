@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "component/context.h"
 #include "app/headless_services.h"
+#include "component/context.h"
 #include "validation/address_rules.h"
 
 namespace nvrandom::fuzz {

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "api/property_table.h"
-
 #include "component/context.h"
 #include "component/trace.h"
 #include "dialogs/biller/frm_random_info.h"
@@ -19,6 +18,8 @@
 namespace nvrandom {
 
 #define NVRANDOM_IGNORE(...)
+
+namespace {
 
 // The class's handlers of the connected dialog's events: each writes its label and raises the
 // class's event of the same name to every advised sink. It is the class's connection point, and
@@ -59,6 +60,8 @@ class Relay final : public RandomInfoEvents, public std::enable_shared_from_this
   Context& ctx_;
   std::vector<ClsRandomEvents*> sinks_;  // slot = cookie - 1; nullptr once unadvised
 };
+
+}  // namespace
 
 struct ClsRandom::Impl {
   explicit Impl(Context& c) : ctx(c), relay(std::make_shared<Relay>(c)) {}
