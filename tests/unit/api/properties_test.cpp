@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "api/cls_random.h"
 #include "api/property_table.h"

@@ -7,9 +7,7 @@
 #include <string>
 
 #include "api/cls_random.h"
-#include "component/show_error.h"
 #include "component/trace.h"
-#include "platform/runtime_error.h"
 #include "support/test_host.h"
 
 namespace nvrandom::testing {
