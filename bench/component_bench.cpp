@@ -11,12 +11,12 @@
 #include <string>
 
 #include "api/cls_random.h"
+#include "app/headless_services.h"
 #include "component/context.h"
 #include "component/trace.h"
 #include "forms/application.h"
 #include "forms/form.h"
 #include "forms/user_input.h"
-#include "platform/headless/headless_services.h"
 #include "platform/path.h"
 
 namespace nvrandom {

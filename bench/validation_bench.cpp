@@ -5,9 +5,9 @@
 #include <memory>
 #include <string>
 
+#include "app/headless_services.h"
 #include "component/context.h"
 #include "dialogs/biller/web_address_checks.h"
-#include "platform/headless/headless_services.h"
 #include "validation/address_rules.h"
 #include "validation/random.h"
 #include "validation/text.h"

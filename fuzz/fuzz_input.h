@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "app/headless_services.h"
 #include "component/context.h"
-#include "platform/headless/headless_services.h"
 #include "validation/address_rules.h"
 
 namespace nvrandom::fuzz {

@@ -1,7 +1,10 @@
 #include "api/cls_random.h"
 
+#include <memory>
 #include <string>
+#include <vector>
 
+#include "api/property_table.h"
 #include "component/context.h"
 #include "component/trace.h"
 #include "dialogs/biller/frm_random_info.h"
@@ -14,46 +17,69 @@
 
 namespace nvrandom {
 
-// The class's handlers of the connected dialog's events: each writes its label and raises the
-// class's event of the same name to every advised sink.
-class ClsRandom::Relay final : public RandomInfoEvents {
- public:
-  explicit Relay(ClsRandom& owner) : owner_(owner) {}
+#define NVRANDOM_IGNORE(...)
 
-  void CSBOK() override {
-    owner_.Trace("frmRandomInfo_CSBOK");
-    Raise([](ClsRandomEvents& s) { s.CSBOK(); });
+namespace {
+
+// The class's handlers of the connected dialog's events: each writes its label and raises the
+// class's event of the same name to every advised sink. It is the class's connection point, and
+// shared: a host may release the class inside its handler, so a raise keeps the relay (its sinks)
+// alive until it has reached every sink, and touches the class only before the first.
+class Relay final : public RandomInfoEvents, public std::enable_shared_from_this<Relay> {
+ public:
+  explicit Relay(Context& ctx) : ctx_(ctx) {}
+
+#define NVRANDOM_RELAY_EVENT(dispid, name, parameters, arguments) \
+  void name parameters override {                                 \
+    TraceEntry(ctx_, "ClsRandom - frmRandomInfo_", #name);        \
+    Raise([&](ClsRandomEvents& sink) { sink.name arguments; });   \
   }
-  void CurrentFieldTop(int16_t Top) override {
-    owner_.Trace("frmRandomInfo_CurrentFieldTop");
-    Raise([Top](ClsRandomEvents& s) { s.CurrentFieldTop(Top); });
+  NVRANDOM_CLSRANDOM_EVENTS(NVRANDOM_RELAY_EVENT)
+#undef NVRANDOM_RELAY_EVENT
+
+  uint32_t Advise(ClsRandomEvents& sink) {
+    sinks_.push_back(&sink);
+    return static_cast<uint32_t>(sinks_.size());
   }
-  void Cancel() override {
-    owner_.Trace("frmRandomInfo_Cancel");
-    Raise([](ClsRandomEvents& s) { s.Cancel(); });
-  }
-  void ViewSampleCheque() override {
-    owner_.Trace("frmRandomInfo_ViewSampleCheque");
-    Raise([](ClsRandomEvents& s) { s.ViewSampleCheque(); });
+  bool Unadvise(uint32_t cookie) {
+    if (cookie == 0 || cookie > sinks_.size() || sinks_[cookie - 1] == nullptr) return false;
+    sinks_[cookie - 1] = nullptr;
+    return true;
   }
 
  private:
   template <class F>
   void Raise(F&& deliver) {
+    const auto keep = shared_from_this();
     // A sink may unadvise (or advise another) while it is called: walk the slots by index.
-    for (size_t i = 0; i < owner_.sinks_.size(); ++i) {
-      if (ClsRandomEvents* sink = owner_.sinks_[i]) deliver(*sink);
+    for (size_t i = 0; i < sinks_.size(); ++i) {
+      if (ClsRandomEvents* sink = sinks_[i]) deliver(*sink);
     }
   }
 
-  ClsRandom& owner_;
+  Context& ctx_;
+  std::vector<ClsRandomEvents*> sinks_;  // slot = cookie - 1; nullptr once unadvised
 };
 
-ClsRandom::ClsRandom() : ClsRandom(Context::ForThisThread()) {}
+}  // namespace
 
-ClsRandom::ClsRandom(Context& ctx) : ctx_(ctx), relay_(std::make_unique<Relay>(*this)) {
-  Trace("Class_Initialize");
-  ComponentStore& s = ctx_.store;
+struct ClsRandom::Impl {
+  explicit Impl(Context& c) : ctx(c), relay(std::make_shared<Relay>(c)) {}
+
+  void Trace(std::string_view procedure) { TraceEntry(ctx, "ClsRandom - ", procedure); }
+  frmRandomInfo& Connected() {
+    if (!connected) connected = frmRandomInfo::Create(ctx, relay.get());
+    return *connected;
+  }
+
+  Context& ctx;
+  std::shared_ptr<Relay> relay;
+  std::shared_ptr<frmRandomInfo> connected;
+};
+
+ClsRandom::ClsRandom(Context& ctx) : impl_(std::make_unique<Impl>(ctx)) {
+  impl_->Trace("Class_Initialize");
+  ComponentStore& s = ctx.store;
   s.verifyBusinessNumberFlag = 0;
   s.importFlag = 0;
   s.IPCurrencyList = StringArray::TwoDimensional(0, 0, 0, 0);
@@ -65,23 +91,47 @@ ClsRandom::ClsRandom(Context& ctx) : ctx_(ctx), relay_(std::make_unique<Relay>(*
 
 ClsRandom::~ClsRandom() {
   // A dialog still on screen outlives the class; its events have nobody to reach any more.
-  if (connected_) connected_->Disconnect();
+  if (impl_->connected) impl_->connected->Disconnect();
 }
 
-void ClsRandom::Trace(std::string_view procedure) {
-  TraceEntry(ctx_, "ClsRandom - ", procedure);
+Context& ClsRandom::context() const {
+  return impl_->ctx;
 }
+
+namespace {
+const MemberInfo& Found(std::string_view name, MemberKind kind) {
+  const MemberInfo* info = FindMember(name);
+  if (info == nullptr || info->kind != kind) throw RuntimeError(vb_error::kObjectDoesNotSupport);
+  return *info;
+}
+}  // namespace
 
 void ClsRandom::Let(std::string_view property, const Variant& value) {
-  const PropertyInfo* info = FindProperty(property);
-  if (info == nullptr) throw RuntimeError(vb_error::kObjectDoesNotSupport);
-  LetProperty(ctx_, info->id, value);
+  const MemberInfo& info = Found(property, MemberKind::kProperty);
+  LetProperty(impl_->ctx, static_cast<PropertyId>(info.index), value);
 }
 
 Variant ClsRandom::Get(std::string_view property) {
-  const PropertyInfo* info = FindProperty(property);
-  if (info == nullptr) throw RuntimeError(vb_error::kObjectDoesNotSupport);
-  return GetProperty(ctx_, info->id);
+  const MemberInfo& info = Found(property, MemberKind::kProperty);
+  return GetProperty(impl_->ctx, static_cast<PropertyId>(info.index));
+}
+
+Variant ClsRandom::Call(std::string_view method) {
+  switch (static_cast<MethodId>(Found(method, MemberKind::kMethod).index)) {
+#define NVRANDOM_CALL_Long(name) return Variant(name());
+#define NVRANDOM_CALL_Void(name) \
+  name();                        \
+  return Variant();
+#define NVRANDOM_CALL(dispid, name, result) \
+  case MethodId::name: {                    \
+    NVRANDOM_CALL_##result(name)            \
+  }
+    NVRANDOM_CLSRANDOM_MEMBERS(NVRANDOM_IGNORE, NVRANDOM_CALL)
+#undef NVRANDOM_CALL
+#undef NVRANDOM_CALL_Long
+#undef NVRANDOM_CALL_Void
+  }
+  return Variant();
 }
 
 namespace {
@@ -107,30 +157,31 @@ std::string AsString(Variant v) {
 #define NVRANDOM_TYPE_String std::string
 #define NVRANDOM_TYPE_Global std::string
 #define NVRANDOM_TYPE_Variant Variant
-#define NVRANDOM_GETTER_LetGet(name, type)                              \
-  NVRANDOM_TYPE_##type ClsRandom::name() {                              \
-    return NVRANDOM_UNWRAP_##type(GetProperty(ctx_, PropertyId::name)); \
+#define NVRANDOM_GETTER_LetGet(name, type)                                    \
+  NVRANDOM_TYPE_##type ClsRandom::name() {                                    \
+    return NVRANDOM_UNWRAP_##type(GetProperty(impl_->ctx, PropertyId::name)); \
   }
 #define NVRANDOM_GETTER_Let(name, type)
-#define NVRANDOM_TYPED_PROPERTY(name, type, access, trace)            \
-  void ClsRandom::name(const NVRANDOM_TYPE_##type& value) {           \
-    LetProperty(ctx_, PropertyId::name, NVRANDOM_WRAP_##type(value)); \
-  }                                                                   \
+#define NVRANDOM_TYPED_PROPERTY(dispid, name, type, access, trace)          \
+  void ClsRandom::name(const NVRANDOM_TYPE_##type& value) {                 \
+    LetProperty(impl_->ctx, PropertyId::name, NVRANDOM_WRAP_##type(value)); \
+  }                                                                         \
   NVRANDOM_GETTER_##access(name, type)
-NVRANDOM_CLSRANDOM_PROPERTIES(NVRANDOM_TYPED_PROPERTY)
+NVRANDOM_CLSRANDOM_MEMBERS(NVRANDOM_TYPED_PROPERTY, NVRANDOM_IGNORE)
 #undef NVRANDOM_TYPED_PROPERTY
 
 int32_t ClsRandom::ShowForm() {
-  Trace("ShowForm");
-  ctx_.store.closeResult = 0;
-  ctx_.store.importFlag = 0;
+  Context& ctx = impl_->ctx;
+  impl_->Trace("ShowForm");
+  ctx.store.closeResult = 0;
+  ctx.store.importFlag = 0;
   // An instance of its own, not connected: its events do not reach the host.
   std::shared_ptr<frmRandomInfo> dialog;
   int32_t result = 0;
   try {
-    dialog = frmRandomInfo::Create(ctx_, nullptr);
+    dialog = frmRandomInfo::Create(ctx, nullptr);
     dialog->Show(true);
-    result = ctx_.store.closeResult;
+    result = ctx.store.closeResult;
   } catch (...) {
     result = CurrentErrorNumber();
   }
@@ -144,27 +195,24 @@ int32_t ClsRandom::ShowForm() {
   return result;
 }
 
-frmRandomInfo& ClsRandom::Connected() {
-  if (!connected_) connected_ = frmRandomInfo::Create(ctx_, relay_.get());
-  return *connected_;
-}
-
 int32_t ClsRandom::ShowForm_Remote() {
-  Trace("ShowForm_Remote");
-  ctx_.store.importFlag = 0;
-  frmRandomInfo& dialog = Connected();
+  Context& ctx = impl_->ctx;
+  impl_->Trace("ShowForm_Remote");
+  ctx.store.importFlag = 0;
+  frmRandomInfo& dialog = impl_->Connected();
   dialog.Show(false);
   if (dialog.IsLoaded()) dialog.Move(0, 0);
   return 0;
 }
 
 int32_t ClsRandom::ShowForm_Import() {
-  Trace("ShowForm_Import");
-  ctx_.store.importFlag = -1;
-  auto dialog = frmRandomInfo::Create(ctx_, nullptr);
+  Context& ctx = impl_->ctx;
+  impl_->Trace("ShowForm_Import");
+  ctx.store.importFlag = -1;
+  auto dialog = frmRandomInfo::Create(ctx, nullptr);
   // Touching the frame loads the dialog: set-up runs first, the import's changes follow.
   dialog->Ctl("Frame1").SetCaption(random_info_text::kImportFrameCaption);
-  dialog->LockForImport(!validation::TrimBlanks(ctx_.store.PayeeFXBankCity).empty());
+  dialog->LockForImport(!validation::TrimBlanks(ctx.store.PayeeFXBankCity).empty());
   dialog->Ctl("cmd_cancel").SetVisible(false);
   dialog->Ctl("cmd_ok").SetCaption(random_info_text::kCloseCaption);
   dialog->Show(true);
@@ -173,42 +221,40 @@ int32_t ClsRandom::ShowForm_Import() {
 }
 
 int32_t ClsRandom::Get_hWnd() {
-  Trace("Get_hWnd");
-  frmRandomInfo& dialog = Connected();
+  impl_->Trace("Get_hWnd");
+  frmRandomInfo& dialog = impl_->Connected();
   dialog.EnsureLoaded();
   return static_cast<int32_t>(dialog.hWnd());
 }
 
 int32_t ClsRandom::Get_Height() {
-  Trace("Get_Height");
-  frmRandomInfo& dialog = Connected();
+  impl_->Trace("Get_Height");
+  frmRandomInfo& dialog = impl_->Connected();
   dialog.EnsureLoaded();
   return dialog.Height();
 }
 
 int32_t ClsRandom::Get_Width() {
-  Trace("Get_Width");
-  frmRandomInfo& dialog = Connected();
+  impl_->Trace("Get_Width");
+  frmRandomInfo& dialog = impl_->Connected();
   dialog.EnsureLoaded();
   return dialog.Width();
 }
 
 void ClsRandom::Unload_From_Remote() {
-  Trace("Unload_From_Remote");
-  for (const auto& form : ctx_.forms().LoadedForms()) {
+  Context& ctx = impl_->ctx;
+  impl_->Trace("Unload_From_Remote");
+  for (const auto& form : ctx.forms().LoadedForms()) {
     if (form->Name() == random_info_text::kFormName) form->Unload(forms::unload_mode::kCode);
   }
 }
 
 uint32_t ClsRandom::Advise(ClsRandomEvents& sink) {
-  sinks_.push_back(&sink);
-  return static_cast<uint32_t>(sinks_.size());
+  return impl_->relay->Advise(sink);
 }
 
 bool ClsRandom::Unadvise(uint32_t cookie) {
-  if (cookie == 0 || cookie > sinks_.size() || sinks_[cookie - 1] == nullptr) return false;
-  sinks_[cookie - 1] = nullptr;
-  return true;
+  return impl_->relay->Unadvise(cookie);
 }
 
 }  // namespace nvrandom

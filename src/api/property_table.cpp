@@ -1,28 +1,79 @@
 #include "api/property_table.h"
-#include "platform/ascii.h"
 
 #include <array>
 #include <string>
 
 #include "component/context.h"
 #include "component/trace.h"
+#include "platform/ascii.h"
 #include "platform/runtime_error.h"
 
 namespace nvrandom {
 
 namespace {
 
+#define NVRANDOM_IGNORE(...)
+
 constexpr bool kLetGet = true;
 constexpr bool kLet = false;
 constexpr bool kTraced = true;
 constexpr bool kUntraced = false;
 
-constexpr std::array<PropertyInfo, kPropertyCount> kProperties = {{
-#define NVRANDOM_PROPERTY_INFO(name, type, access, trace) \
-  {PropertyId::name, #name, PropertyType::k##type, k##access, k##trace},
-    NVRANDOM_CLSRANDOM_PROPERTIES(NVRANDOM_PROPERTY_INFO)
-#undef NVRANDOM_PROPERTY_INFO
-}};
+constexpr AutomationType kTypeInteger = AutomationType::kI2;
+constexpr AutomationType kTypeFlag = AutomationType::kI2;
+constexpr AutomationType kTypeString = AutomationType::kBstr;
+constexpr AutomationType kTypeGlobal = AutomationType::kBstr;
+constexpr AutomationType kTypeVariant = AutomationType::kVariant;
+constexpr AutomationType kTypeLong = AutomationType::kI4;
+constexpr AutomationType kTypeVoid = AutomationType::kVoid;
+
+#define NVRANDOM_PROPERTY_MEMBER(dispid, name, type, access, trace) \
+  MemberInfo{dispid,                                                \
+             #name,                                                 \
+             MemberKind::kProperty,                                 \
+             kType##type,                                           \
+             static_cast<int>(PropertyId::name),                    \
+             PropertyType::k##type,                                 \
+             k##access,                                             \
+             k##trace},
+#define NVRANDOM_METHOD_MEMBER(dispid, name, result) \
+  MemberInfo{dispid, #name, MemberKind::kMethod, kType##result, static_cast<int>(MethodId::name)},
+constexpr MemberInfo kMembers[] = {
+    NVRANDOM_CLSRANDOM_MEMBERS(NVRANDOM_PROPERTY_MEMBER, NVRANDOM_METHOD_MEMBER)};
+#undef NVRANDOM_PROPERTY_MEMBER
+#undef NVRANDOM_METHOD_MEMBER
+
+#define NVRANDOM_COUNT(...) +1
+constexpr size_t kPropertyCount = 0 NVRANDOM_CLSRANDOM_MEMBERS(NVRANDOM_COUNT, NVRANDOM_IGNORE);
+constexpr size_t kMethodCount = 0 NVRANDOM_CLSRANDOM_MEMBERS(NVRANDOM_IGNORE, NVRANDOM_COUNT);
+#undef NVRANDOM_COUNT
+
+// Where each property and method sits in kMembers.
+template <MemberKind kind, size_t count>
+constexpr std::array<size_t, count> Positions() {
+  std::array<size_t, count> positions{};
+  for (size_t i = 0; i < std::size(kMembers); ++i) {
+    if (kMembers[i].kind == kind) positions[static_cast<size_t>(kMembers[i].index)] = i;
+  }
+  return positions;
+}
+constexpr auto kPropertyPositions = Positions<MemberKind::kProperty, kPropertyCount>();
+constexpr auto kMethodPositions = Positions<MemberKind::kMethod, kMethodCount>();
+
+constexpr AutomationType kNoParameters[] = {AutomationType::kVoid};
+constexpr AutomationType kTopParameters[] = {AutomationType::kI2};
+constexpr EventInfo kEvents[] = {
+    {1, "CSBOK", std::span(kNoParameters, 0)},
+    {2, "CurrentFieldTop", kTopParameters},
+    {3, "Cancel", std::span(kNoParameters, 0)},
+    {4, "ViewSampleCheque", std::span(kNoParameters, 0)},
+};
+// The event table above follows the list's order and numbers.
+#define NVRANDOM_CHECK_EVENT(number, event, parameters, arguments)               \
+  static_assert(kEvents[static_cast<size_t>(EventId::event)].dispid == number && \
+                kEvents[static_cast<size_t>(EventId::event)].name == std::string_view(#event));
+NVRANDOM_CLSRANDOM_EVENTS(NVRANDOM_CHECK_EVENT)
+#undef NVRANDOM_CHECK_EVENT
 
 // The country-list selectors are stored under (and traced with) their globals' names.
 std::string_view LabelName(PropertyId id) {
@@ -52,42 +103,46 @@ void LetProvAreaCode(ComponentStore& store, const Variant& value) {
   }
 }
 
+// Every Integer and Flag property is the store member of its name: a new one without a member
+// does not build.
 int16_t* IntegerMember(ComponentStore& s, PropertyId id) {
   switch (id) {
-    case PropertyId::FormStyle:
-      return &s.FormStyle;
-    case PropertyId::PlayByPlayEnabled:
-      return &s.PlayByPlayEnabled;
-    case PropertyId::Add:
-      return &s.Add;
-    case PropertyId::UserBankAcctPermission:
-      return &s.UserBankAcctPermission;
-    case PropertyId::InternationalPayment:
-      return &s.InternationalPayment;
-    case PropertyId::BillerPaid:
-      return &s.BillerPaid;
-    case PropertyId::UseAcctvfy:
-      return &s.UseAcctvfy;
+#define NVRANDOM_INTEGER_MEMBER_Integer(name) \
+  case PropertyId::name:                      \
+    return &s.name;
+#define NVRANDOM_INTEGER_MEMBER_Flag(name) NVRANDOM_INTEGER_MEMBER_Integer(name)
+#define NVRANDOM_INTEGER_MEMBER_String(name)
+#define NVRANDOM_INTEGER_MEMBER_Global(name)
+#define NVRANDOM_INTEGER_MEMBER_Variant(name)
+#define NVRANDOM_INTEGER_MEMBER(dispid, name, type, access, trace) \
+  NVRANDOM_INTEGER_MEMBER_##type(name)
+    NVRANDOM_CLSRANDOM_MEMBERS(NVRANDOM_INTEGER_MEMBER, NVRANDOM_IGNORE)
+#undef NVRANDOM_INTEGER_MEMBER
+#undef NVRANDOM_INTEGER_MEMBER_Integer
+#undef NVRANDOM_INTEGER_MEMBER_Flag
+#undef NVRANDOM_INTEGER_MEMBER_String
+#undef NVRANDOM_INTEGER_MEMBER_Global
+#undef NVRANDOM_INTEGER_MEMBER_Variant
     default:
       return nullptr;
   }
 }
 
+// Likewise every String property (Global ones under gstr<name>).
 std::string* StringMember(ComponentStore& s, PropertyId id) {
   switch (id) {
-    case PropertyId::CountryListAll:
-      return &s.gstrCountryListAll;
-    case PropertyId::CountryListPartial:
-      return &s.gstrCountryListPartial;
 #define NVRANDOM_STRING_MEMBER_String(name) \
   case PropertyId::name:                    \
     return &s.name;
+#define NVRANDOM_STRING_MEMBER_Global(name) \
+  case PropertyId::name:                    \
+    return &s.gstr##name;
 #define NVRANDOM_STRING_MEMBER_Integer(name)
 #define NVRANDOM_STRING_MEMBER_Flag(name)
 #define NVRANDOM_STRING_MEMBER_Variant(name)
-#define NVRANDOM_STRING_MEMBER_Global(name)
-#define NVRANDOM_STRING_MEMBER(name, type, access, trace) NVRANDOM_STRING_MEMBER_##type(name)
-      NVRANDOM_CLSRANDOM_PROPERTIES(NVRANDOM_STRING_MEMBER)
+#define NVRANDOM_STRING_MEMBER(dispid, name, type, access, trace) \
+  NVRANDOM_STRING_MEMBER_##type(name)
+    NVRANDOM_CLSRANDOM_MEMBERS(NVRANDOM_STRING_MEMBER, NVRANDOM_IGNORE)
 #undef NVRANDOM_STRING_MEMBER
 #undef NVRANDOM_STRING_MEMBER_String
 #undef NVRANDOM_STRING_MEMBER_Integer
@@ -99,16 +154,75 @@ std::string* StringMember(ComponentStore& s, PropertyId id) {
   }
 }
 
-}  // namespace
+// The Let rule of each Variant property; one declared in the list but not defined here fails
+// the link.
+template <PropertyId id>
+void LetVariant(ComponentStore& store, const Variant& value);
 
-const PropertyInfo& Property(PropertyId id) {
-  return kProperties[static_cast<size_t>(id)];
+template <>
+void LetVariant<PropertyId::Prov_areacode>(ComponentStore& store, const Variant& value) {
+  LetProvAreaCode(store, value);
+}
+template <>
+void LetVariant<PropertyId::NVMemberType>(ComponentStore& store, const Variant& value) {
+  store.NVMemberType = ToText(value);
+}
+template <>
+void LetVariant<PropertyId::IPBillerNameAcctExist>(ComponentStore& store, const Variant& value) {
+  store.IPBillerNameAcctExist = ToFlag(value);
+}
+template <>
+void LetVariant<PropertyId::IPCurrencyList>(ComponentStore& store, const Variant& value) {
+  store.IPCurrencyList = ToArray(value);
+}
+template <>
+void LetVariant<PropertyId::IPBillerCurrencies>(ComponentStore& store, const Variant& value) {
+  store.IPBillerCurrencies = ToArray(value);
 }
 
-const PropertyInfo* FindProperty(std::string_view name) {
-  // Member names are matched ignoring case, as a late-bound caller names them.
-  for (const PropertyInfo& p : kProperties) {
-    if (ascii::EqualsIgnoreCase(p.name, name)) return &p;
+void LetVariantProperty(ComponentStore& store, PropertyId id, const Variant& value) {
+  switch (id) {
+#define NVRANDOM_LET_VARIANT_Variant(name) \
+  case PropertyId::name:                   \
+    return LetVariant<PropertyId::name>(store, value);
+#define NVRANDOM_LET_VARIANT_Integer(name)
+#define NVRANDOM_LET_VARIANT_Flag(name)
+#define NVRANDOM_LET_VARIANT_String(name)
+#define NVRANDOM_LET_VARIANT_Global(name)
+#define NVRANDOM_LET_VARIANT(dispid, name, type, access, trace) NVRANDOM_LET_VARIANT_##type(name)
+    NVRANDOM_CLSRANDOM_MEMBERS(NVRANDOM_LET_VARIANT, NVRANDOM_IGNORE)
+#undef NVRANDOM_LET_VARIANT
+#undef NVRANDOM_LET_VARIANT_Variant
+#undef NVRANDOM_LET_VARIANT_Integer
+#undef NVRANDOM_LET_VARIANT_Flag
+#undef NVRANDOM_LET_VARIANT_String
+#undef NVRANDOM_LET_VARIANT_Global
+    default:
+      return;
+  }
+}
+
+}  // namespace
+
+std::span<const MemberInfo> Members() {
+  return kMembers;
+}
+
+std::span<const EventInfo> Events() {
+  return kEvents;
+}
+
+const MemberInfo& Property(PropertyId id) {
+  return kMembers[kPropertyPositions[static_cast<size_t>(id)]];
+}
+
+const MemberInfo& Method(MethodId id) {
+  return kMembers[kMethodPositions[static_cast<size_t>(id)]];
+}
+
+const MemberInfo* FindMember(std::string_view name) {
+  for (const MemberInfo& m : kMembers) {
+    if (ascii::EqualsIgnoreCase(m.name, name)) return &m;
   }
   return nullptr;
 }
@@ -118,7 +232,7 @@ void LetProperty(Context& ctx, PropertyId id, const Variant& value) {
   // A typed parameter is converted by the call itself, before the procedure is entered: a value
   // that cannot be converted fails the call and leaves no trace line. Variant parameters are
   // converted inside the procedure, after its label.
-  switch (Property(id).type) {
+  switch (Property(id).property_type) {
     case PropertyType::kInteger:
     case PropertyType::kFlag: {
       const int16_t number = ToInteger(value);
@@ -138,29 +252,11 @@ void LetProperty(Context& ctx, PropertyId id, const Variant& value) {
       break;
   }
   TraceProcedure(ctx, id, "Let ");
-  switch (id) {
-    case PropertyId::Prov_areacode:
-      LetProvAreaCode(s, value);
-      return;
-    case PropertyId::NVMemberType:
-      s.NVMemberType = ToText(value);
-      return;
-    case PropertyId::IPBillerNameAcctExist:
-      s.IPBillerNameAcctExist = ToFlag(value);
-      return;
-    case PropertyId::IPCurrencyList:
-      s.IPCurrencyList = ToArray(value);
-      return;
-    case PropertyId::IPBillerCurrencies:
-      s.IPBillerCurrencies = ToArray(value);
-      return;
-    default:
-      return;
-  }
+  LetVariantProperty(s, id, value);
 }
 
 Variant GetProperty(Context& ctx, PropertyId id) {
-  const PropertyInfo& info = Property(id);
+  const MemberInfo& info = Property(id);
   if (!info.can_get) {
     throw RuntimeError(451,
                        "Property let procedure not defined and property get procedure did not "

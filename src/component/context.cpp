@@ -10,9 +10,4 @@ Context::Context(Services services_in)
 
 Context::~Context() = default;
 
-Context& Context::ForThisThread() {
-  thread_local Context context(MakePosixServices());
-  return context;
-}
-
 }  // namespace nvrandom

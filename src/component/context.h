@@ -13,7 +13,8 @@ class Application;
 }
 
 // What one thread (apartment) of a host shares: the biller store, the platform services and the
-// collection of loaded forms. Every ClsRandom created on that thread works on the same context.
+// collection of loaded forms. Every ClsRandom created on that thread works on the same context;
+// the composition root (app/thread_context.h) owns the threads' contexts.
 class Context {
  public:
   explicit Context(Services services);
@@ -30,9 +31,6 @@ class Context {
   // matched case-insensitively against what exists); kept so that a trace line costs one open.
   std::string trace_root;
   std::string trace_file;
-
-  // The context of the calling thread, created with the platform's services on first use.
-  static Context& ForThisThread();
 
  private:
   std::unique_ptr<forms::Application> forms_;

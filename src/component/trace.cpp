@@ -1,12 +1,9 @@
 #include "component/trace.h"
-#include "platform/ascii.h"
-
-#include <fcntl.h>
-#include <unistd.h>
 
 #include <string>
 
 #include "component/context.h"
+#include "platform/ascii.h"
 #include "platform/path.h"
 
 namespace nvrandom {
@@ -17,20 +14,6 @@ std::string ComputeTraceFile(const std::string& root) {
   // The root ends in a separator already; joining "\Norvik\PBP.txt" doubles it on purpose.
   const std::string dir = root + path::kSeparator;
   return path::ResolveFolder(dir, "Norvik") + path::kSeparator + "PBP.txt";
-}
-
-bool AppendLine(const std::string& file, const std::string& line, bool truncate) {
-  const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | (truncate ? O_TRUNC : O_APPEND);
-  const int fd = ::open(file.c_str(), flags, 0644);
-  if (fd < 0) return false;
-  size_t written = 0;
-  while (written < line.size()) {
-    const ssize_t n = ::write(fd, line.data() + written, line.size() - written);
-    if (n <= 0) break;
-    written += static_cast<size_t>(n);
-  }
-  ::close(fd);
-  return written == line.size();
 }
 
 }  // namespace
@@ -52,11 +35,11 @@ void WritePlayByPlay(Context& ctx, std::string_view label, bool newFile) {
   line += label;
   line += "\r\n";
   const std::string file(TraceFilePath(ctx));
-  if (!AppendLine(file, line, newFile)) {
+  if (!path::WriteToFile(file, line, newFile)) {
     // The folder may have appeared, or changed case, since the path was resolved: look again once.
     ctx.trace_file.clear();
     const std::string again(TraceFilePath(ctx));
-    if (again != file) AppendLine(again, line, newFile);
+    if (again != file) path::WriteToFile(again, line, newFile);
   }
 }
 

@@ -1,12 +1,12 @@
 #include "component/variant.h"
-#include "platform/ascii.h"
 
-#include <cctype>
 #include <cmath>
+#include <cstdio>
 #include <cstdlib>
 #include <limits>
 #include <string>
 
+#include "platform/ascii.h"
 #include "platform/runtime_error.h"
 
 namespace nvrandom {
@@ -81,8 +81,7 @@ double ParseNumber(const std::string& text) {
   const std::string core = text.substr(b, e - b);
   if (core.empty()) throw RuntimeError(vb_error::kTypeMismatch);
   for (const char c : core) {
-    if (!(std::isdigit(static_cast<unsigned char>(c)) || c == '.' || c == '+' || c == '-' ||
-          c == 'e' || c == 'E')) {
+    if (!(ascii::IsDigit(c) || c == '.' || c == '+' || c == '-' || c == 'e' || c == 'E')) {
       throw RuntimeError(vb_error::kTypeMismatch);
     }
   }
@@ -105,34 +104,94 @@ int16_t ToInt16(double value) {
 
 }  // namespace
 
-std::string ToText(const Variant& v) {
+namespace {
+
+// The value a reference stands for (a chain of references included; one that comes back to
+// itself, or leads nowhere, refers to no value).
+const Variant& Deref(const Variant& v) {
+  constexpr int kLongestChain = 16;
+  const Variant* at = &v;
+  int links = 0;
+  while (const auto* ref = std::get_if<VariantRef>(&at->value)) {
+    if (ref->target == nullptr || ++links > kLongestChain) {
+      throw RuntimeError(vb_error::kTypeMismatch);
+    }
+    at = ref->target;
+  }
+  if (std::holds_alternative<MissingArgument>(at->value))
+    throw RuntimeError(vb_error::kArgumentNotOptional);
+  return *at;
+}
+
+std::string DoubleText(double d) {
+  if (d == std::trunc(d) && std::fabs(d) < 1e15) return std::to_string(static_cast<int64_t>(d));
+  char buffer[32];
+  std::snprintf(buffer, sizeof buffer, "%.15G", d);
+  return buffer;
+}
+
+}  // namespace
+
+std::string ToText(const Variant& in) {
+  const Variant& v = Deref(in);
   if (const auto* n = std::get_if<int32_t>(&v.value)) return std::to_string(*n);
   if (const auto* s = std::get_if<std::string>(&v.value)) return *s;
+  if (const auto* b = std::get_if<bool>(&v.value)) return *b ? "True" : "False";
+  if (const auto* d = std::get_if<double>(&v.value)) return DoubleText(*d);
   if (v.is_empty()) return {};
   throw RuntimeError(vb_error::kTypeMismatch);
 }
 
-int16_t ToInteger(const Variant& v) {
+int16_t ToInteger(const Variant& in) {
+  const Variant& v = Deref(in);
   if (const auto* n = std::get_if<int32_t>(&v.value)) return ToInt16(*n);
   if (const auto* s = std::get_if<std::string>(&v.value)) return ToInt16(ParseNumber(*s));
+  if (const auto* b = std::get_if<bool>(&v.value)) return *b ? -1 : 0;
+  if (const auto* d = std::get_if<double>(&v.value)) return ToInt16(*d);
   if (v.is_empty()) return 0;
   throw RuntimeError(vb_error::kTypeMismatch);
 }
 
-int16_t ToFlag(const Variant& v) {
+int16_t ToFlag(const Variant& in) {
+  const Variant& v = Deref(in);
   if (const auto* n = std::get_if<int32_t>(&v.value)) return *n != 0 ? -1 : 0;
   if (const auto* s = std::get_if<std::string>(&v.value)) {
     if (ascii::EqualsIgnoreCase(*s, "True")) return -1;
     if (ascii::EqualsIgnoreCase(*s, "False")) return 0;
     return ParseNumber(*s) != 0 ? -1 : 0;
   }
+  if (const auto* b = std::get_if<bool>(&v.value)) return *b ? -1 : 0;
+  if (const auto* d = std::get_if<double>(&v.value)) return *d != 0 ? -1 : 0;
   if (v.is_empty()) return 0;
   throw RuntimeError(vb_error::kTypeMismatch);
 }
 
-const StringArray& ToArray(const Variant& v) {
+StringArray ToArray(const Variant& in) {
+  const Variant& v = Deref(in);
   if (const auto* a = std::get_if<StringArray>(&v.value)) return *a;
-  throw RuntimeError(vb_error::kTypeMismatch);
+  const auto* list = std::get_if<std::shared_ptr<const VariantArray>>(&v.value);
+  if (list == nullptr || *list == nullptr) throw RuntimeError(vb_error::kTypeMismatch);
+  const VariantArray& from = **list;
+  StringArray to;
+  if (from.lower.size() == 1 && from.upper.size() == 1) {
+    to = StringArray::OneDimensional(from.lower[0], from.upper[0]);
+  } else if (from.lower.size() == 2 && from.upper.size() == 2) {
+    to = StringArray::TwoDimensional(from.lower[0], from.upper[0], from.lower[1], from.upper[1]);
+  } else {
+    throw RuntimeError(vb_error::kTypeMismatch);
+  }
+  if (from.elements.size() != to.size()) throw RuntimeError(vb_error::kTypeMismatch);
+  // Both keep their elements in the same order: convert them place by place.
+  size_t k = 0;
+  const auto put = [&](std::string& element) { element = ToText(from.elements[k++]); };
+  if (to.dimensions() == 1) {
+    for (int32_t i = to.LBound(1); i <= to.UBound(1); ++i) put(to.at(i));
+  } else {
+    for (int32_t j = to.LBound(2); j <= to.UBound(2); ++j) {
+      for (int32_t i = to.LBound(1); i <= to.UBound(1); ++i) put(to.at(i, j));
+    }
+  }
+  return to;
 }
 
 }  // namespace nvrandom

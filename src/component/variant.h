@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <variant>
 #include <vector>
@@ -42,26 +43,82 @@ class StringArray {
   std::vector<std::string> data_;
 };
 
-// The value of a property as a late-bound host passes it: nothing, a number, a text or an array.
-// Typed properties convert it the way the platform would (see property_value.h).
+struct Variant;
+
+// An array of variants with the platform's bounds (one or two dimensions), its elements in the
+// order of StringArray's: what a script host passes for an array.
+struct VariantArray {
+  std::vector<int32_t> lower;
+  std::vector<int32_t> upper;
+  std::vector<Variant> elements;
+};
+
+// An optional argument the caller left out.
+struct MissingArgument {
+  bool operator==(const MissingArgument&) const = default;
+};
+
+// A value passed by reference: the caller's variable, read where the value is needed.
+struct VariantRef {
+  const Variant* target = nullptr;
+  bool operator==(const VariantRef&) const = default;
+};
+
+// The value of a property as a late-bound host passes it: nothing, an integer (16 or 32 bits), a
+// double, a boolean, a text, an array of texts or of variants, a missing argument or a reference
+// to any of these.
 struct Variant {
-  std::variant<std::monostate, int32_t, std::string, StringArray> value;
+  std::variant<std::monostate, int32_t, std::string, StringArray, bool, double, MissingArgument,
+               VariantRef, std::shared_ptr<const VariantArray>>
+      value;
 
   Variant() = default;
   Variant(int32_t number) : value(number) {}               // NOLINT(google-explicit-constructor)
   Variant(std::string text) : value(std::move(text)) {}    // NOLINT(google-explicit-constructor)
   Variant(const char* text) : value(std::string(text)) {}  // NOLINT(google-explicit-constructor)
   Variant(StringArray array) : value(std::move(array)) {}  // NOLINT(google-explicit-constructor)
+  // The other kinds are named, so that no pointer or stray number becomes one by accident.
+  static Variant Boolean(bool b) { return FromAlternative(b); }
+  static Variant Double(double d) { return FromAlternative(d); }
+  static Variant Missing() { return FromAlternative(MissingArgument{}); }
+  // `target` must outlive the variant (a host's variable during its call).
+  static Variant Ref(const Variant& target) { return FromAlternative(VariantRef{&target}); }
+  static Variant Array(VariantArray array) {
+    return FromAlternative(std::make_shared<const VariantArray>(std::move(array)));
+  }
 
   bool is_empty() const { return std::holds_alternative<std::monostate>(value); }
   bool operator==(const Variant&) const = default;
+
+ private:
+  template <class T>
+  static Variant FromAlternative(T alternative) {
+    Variant v;
+    v.value = std::move(alternative);
+    return v;
+  }
 };
 
-// Conversions with the platform's rules; they raise RuntimeError 13 (type mismatch) or 6
-// (overflow) where the platform would.
-std::string ToText(const Variant& v);          // CStr: numbers in decimal, empty as ""
-int16_t ToInteger(const Variant& v);           // CInt: numeric text rounds half to even
-int16_t ToFlag(const Variant& v);              // CBool: nonzero or "True" gives -1
-const StringArray& ToArray(const Variant& v);  // an array, or error 13
+// The conversions, with the platform's rules. A reference is converted as the value it refers to.
+//
+//  from \ to       ToText (CStr)           ToInteger (CInt)         ToFlag (CBool)     ToArray
+//  Empty           ""                      0                        0                  13
+//  integer         decimal                 itself, or 6 past 16 bit nonzero: -1        13
+//  double          up to 15 digits, "."    rounded half to even, 6  nonzero: -1        13
+//  boolean         "True" / "False"        -1 / 0                   -1 / 0             13
+//  text            itself                  numeric text as double,  "True"/"False"     13
+//                                          else 13                  (any case), or as
+//                                                                   numeric text, else 13
+//  text array      13                      13                       13                 itself
+//  variant array   13                      13                       13                 elements
+//                                                                   converted by ToText, same
+//                                                                   bounds (13 when one cannot be)
+//  missing         449                     449                      449                449
+//
+// RuntimeError carries the number: 13 type mismatch, 6 overflow, 449 argument not optional.
+std::string ToText(const Variant& v);
+int16_t ToInteger(const Variant& v);
+int16_t ToFlag(const Variant& v);
+StringArray ToArray(const Variant& v);
 
 }  // namespace nvrandom

@@ -7,6 +7,10 @@
 
 namespace nvrandom {
 
+// The bank id under which business numbers are verified as accounts: the business-number
+// registry, which the checks ask and every verifier knows.
+inline constexpr std::string_view kBusinessNumberBankId = "001003";
+
 // The host installation's account-verification object, as the bank and business-number checks
 // use it: one object per check, given the session's values and then asked one question. Members
 // are declared in the order of the object's interface slots. Every result is written through the

@@ -4,15 +4,32 @@
 
 namespace nvrandom::ascii {
 
+// Character classes and case of the ASCII letters and digits only: every other byte (UTF-8
+// included) is no letter, no digit, and keeps its case. Independent of the C locale.
+constexpr bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+constexpr bool IsUpper(char c) {
+  return c >= 'A' && c <= 'Z';
+}
+constexpr bool IsLower(char c) {
+  return c >= 'a' && c <= 'z';
+}
+constexpr bool IsLetter(char c) {
+  return IsUpper(c) || IsLower(c);
+}
+constexpr char ToLower(char c) {
+  return IsUpper(c) ? static_cast<char>(c - 'A' + 'a') : c;
+}
+constexpr char ToUpper(char c) {
+  return IsLower(c) ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
 // Equal when the texts differ only in the case of ASCII letters; other bytes compare as they are.
 constexpr bool EqualsIgnoreCase(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
   for (size_t i = 0; i < a.size(); ++i) {
-    char x = a[i];
-    char y = b[i];
-    if (x >= 'A' && x <= 'Z') x = static_cast<char>(x - 'A' + 'a');
-    if (y >= 'A' && y <= 'Z') y = static_cast<char>(y - 'A' + 'a');
-    if (x != y) return false;
+    if (ToLower(a[i]) != ToLower(b[i])) return false;
   }
   return true;
 }

@@ -13,6 +13,8 @@ inline constexpr char kSeparator = '\\';
 inline constexpr char kSeparator = '/';
 #endif
 
+// Paths are UTF-8 everywhere in the component; on Windows they are widened for the system calls.
+
 // Joins with one separator, inserted only when `root` is not empty and lacks a trailing one.
 std::string Join(std::string_view root, std::string_view name);
 
@@ -25,5 +27,13 @@ bool FileExists(const std::string& file);
 
 // The whole content of a file, byte for byte; nullopt when it cannot be read.
 std::optional<std::string> ReadFile(const std::string& file);
+
+// Writes `data` at the end of `file` (created when missing), or in its place when `truncate`;
+// false unless every byte was written. The file is open only for the call.
+bool WriteToFile(const std::string& file, std::string_view data, bool truncate);
+
+// A new, empty folder of the current user below the system's temporary folder, its name starting
+// with `prefix`; the path ends in a separator. Empty when none could be made.
+std::string MakeTemporaryFolder(std::string_view prefix);
 
 }  // namespace nvrandom::path

@@ -28,6 +28,8 @@ std::string DefaultErrorDescription(int32_t number) {
       return "ActiveX component can't create object";
     case vb_error::kObjectDoesNotSupport:
       return "Object doesn't support this property or method";
+    case vb_error::kArgumentNotOptional:
+      return "Argument not optional";
     default:
       return "Application-defined or object-defined error";
   }

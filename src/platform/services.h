@@ -15,7 +15,8 @@ class AccountVerifierFactory;
 class BankCheckLibrary;
 
 // Everything the core asks of the outside world. Each member is a small interface with a real
-// implementation per platform and a recording one for tests and the scenario runner.
+// implementation per platform and a recording one for the scenario runner; which ones a run gets
+// is decided only by the composition root (src/app).
 struct Services {
   std::unique_ptr<MessageBoxService> message_box;
   std::unique_ptr<ShellService> shell;
@@ -27,9 +28,5 @@ struct Services {
   std::shared_ptr<AccountVerifierFactory> verifiers;
   std::shared_ptr<BankCheckLibrary> bank_checks;
 };
-
-// The POSIX implementations (message boxes answer with their default button: a real user
-// interface replaces that service with its own).
-Services MakePosixServices();
 
 }  // namespace nvrandom

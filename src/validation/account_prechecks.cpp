@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/ascii.h"
 #include "validation/number_text.h"
 #include "validation/text.h"
 
@@ -12,19 +13,16 @@ AccountFault FindAccountFault(std::string_view account) {
   if (account.find(' ') != std::string_view::npos) return AccountFault::kContainsBlank;
   // Without blanks the account is its own trimmed form.
   if (CharacterCount(account) < 4) return AccountFault::kTooShort;
-  const bool valid = std::all_of(account.begin(), account.end(), [](char c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z');
-  });
+  const bool valid = std::all_of(account.begin(), account.end(),
+                                 [](char c) { return ascii::IsDigit(c) || ascii::IsUpper(c); });
   return valid ? AccountFault::kNone : AccountFault::kInvalidCharacters;
 }
 
-std::string AccountCheckBankId(std::string_view bank_id) {
-  constexpr int kBankIdLength = 6;
+std::string_view AccountCheckBankId(std::string_view bank_id, int bank_id_length) {
   const std::string_view trimmed = TrimBlanks(bank_id);
-  if (CharacterCount(trimmed) == kBankIdLength + 1) {
-    return PadLeft(LeftCharacters(trimmed, kBankIdLength), kBankIdLength);
-  }
-  return PadLeft(bank_id, kBankIdLength);
+  if (CharacterCount(trimmed) == static_cast<size_t>(bank_id_length) + 1)
+    return LeftCharacters(trimmed, bank_id_length);
+  return bank_id;
 }
 
 std::optional<std::string> BusinessNumberAccount(std::string_view number) {

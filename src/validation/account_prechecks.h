@@ -19,12 +19,9 @@ inline constexpr std::string_view kInvalidAccountCharactersMessage =
 enum class AccountFault { kNone, kContainsBlank, kTooShort, kInvalidCharacters };
 AccountFault FindAccountFault(std::string_view account);
 
-// The bank id as the account verification passes it: a trimmed id of seven characters loses its
-// last one, then the id is brought to six characters (PadLeft).
-std::string AccountCheckBankId(std::string_view bank_id);
-
-// The bank id under which business numbers are verified.
-inline constexpr std::string_view kBusinessNumberBankId = "001003";
+// The bank id the account verification pads: a trimmed id one character longer than
+// `bank_id_length` loses its last character; any other id is kept as given.
+std::string_view AccountCheckBankId(std::string_view bank_id, int bank_id_length);
 
 // The account value under which a business number is verified: its first nine characters and
 // "RT0001"; nothing when the number is refused before that (empty, shorter than nine characters,

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "component/store.h"
+#include "platform/ascii.h"
 #include "validation/text.h"
 
 namespace nvrandom::validation {
@@ -21,10 +22,6 @@ bool AnyUnit(std::string_view provpostal, size_t width, Visit visit) {
   return false;
 }
 
-char UpperAscii(char c) {
-  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
 // The first `limit` bytes of the street as the rule sees it: trimmed, upper-cased, each run of
 // blanks made one. Blanks inside a trimmed text are always followed by a non-blank, so a prefix
 // of the collapsed text is the collapsed prefix.
@@ -36,7 +33,7 @@ std::string NormalisedPrefix(std::string_view street, size_t limit) {
   for (const char c : trimmed) {
     if (out.size() >= limit) break;
     if (c == ' ' && previous == ' ') continue;
-    out += UpperAscii(c);
+    out += ascii::ToUpper(c);
     previous = c;
   }
   return out;

@@ -1,13 +1,11 @@
 #include "validation/number_text.h"
 
+#include "platform/ascii.h"
 #include "validation/text.h"
 
 namespace nvrandom::validation {
 
 namespace {
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 bool IsSign(char c) {
   return c == '+' || c == '-';
 }
@@ -22,7 +20,7 @@ bool IsGeneralNumber(std::string_view text) {
   bool digit_seen = false;
   bool point_seen = false;
   for (const char c : text) {
-    if (IsDigit(c)) {
+    if (ascii::IsDigit(c)) {
       digit_seen = true;
     } else if (c == '.' && !point_seen) {
       point_seen = true;
@@ -48,7 +46,7 @@ std::string FormatProgramVersion(std::string_view version) {
   }
   if (number.empty()) return undotted;
   for (const char c : number) {
-    if (!IsDigit(c)) return undotted;
+    if (!ascii::IsDigit(c)) return undotted;
   }
 
   constexpr size_t kMinimumDigits = 4;

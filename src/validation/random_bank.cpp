@@ -40,8 +40,10 @@ int16_t Random::VerifyAccount(std::string_view bank_id, std::string_view account
       case validation::AccountFault::kNone:
         break;
     }
-    const std::string padded_bank_id = validation::AccountCheckBankId(bank_id);
-    const std::string padded_account = validation::PadRight(account, kAccountLength);
+    // Padded through the module's own procedures, so that their trace lines follow this one.
+    const std::string padded_bank_id =
+        PadLeft(validation::AccountCheckBankId(bank_id, kBankIdLength), kBankIdLength);
+    const std::string padded_account = PadRight(account, kAccountLength);
     if (validation::TrimBlanks(padded_bank_id).empty()) return kNoBankId;
 
     auto verifier = validation::NewVerifier(ctx_);

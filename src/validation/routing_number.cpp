@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/ascii.h"
 #include "validation/text.h"
 
 namespace nvrandom::validation {
@@ -13,7 +14,7 @@ constexpr std::array<int, 9> kWeights = {3, 7, 1, 3, 7, 1, 3, 7, 1};
 
 int DigitValue(std::string_view character) {
   const char c = character.front();
-  return (character.size() == 1 && c >= '0' && c <= '9') ? c - '0' : 0;
+  return (character.size() == 1 && ascii::IsDigit(c)) ? c - '0' : 0;
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "forms/utf8_text.h"
+#include "platform/ascii.h"
 
 namespace nvrandom::validation {
 
@@ -55,9 +56,8 @@ std::string PadRight(std::string_view text, int length) {
 }
 
 bool IsAlpha(std::string_view text) {
-  for (const char ch : text) {
-    const auto c = static_cast<unsigned char>(ch);
-    if ((c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z')) return true;
+  for (const char c : text) {
+    if (ascii::IsLetter(c)) return true;
   }
   return false;
 }

@@ -4,6 +4,8 @@
 #include <span>
 #include <string_view>
 
+#include "platform/account_verifier.h"
+
 namespace nvrandom::verifier {
 
 // How the accounts of an institution are formed.
@@ -41,6 +43,6 @@ std::span<const Institution> KnownInstitutions();
 const Institution* FindInstitution(std::string_view number);
 
 // The pseudo-institution under which business numbers are verified as accounts.
-inline constexpr std::string_view kBusinessNumberRegistry = "001003";
+inline constexpr std::string_view kBusinessNumberRegistry = kBusinessNumberBankId;
 
 }  // namespace nvrandom::verifier

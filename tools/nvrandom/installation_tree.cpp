@@ -1,13 +1,12 @@
 #include "installation_tree.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string_view>
 #include <system_error>
-#include <vector>
 
 #include "platform/country_file_cipher.h"
+#include "platform/path.h"
 
 namespace nvrandom::scenario {
 
@@ -34,14 +33,9 @@ bool WriteCountryFile(const std::string& file, std::string_view plain_rows) {
 }
 
 InstallationTree::InstallationTree() {
+  const std::string root = path::MakeTemporaryFolder("nvrandom-");
+  if (root.empty()) return;
   std::error_code ec;
-  const fs::path base = fs::temp_directory_path(ec);
-  if (ec) return;
-  std::string pattern = (base / "nvrandom-XXXXXX").string();
-  std::vector<char> buffer(pattern.begin(), pattern.end());
-  buffer.push_back('\0');
-  if (::mkdtemp(buffer.data()) == nullptr) return;
-  const std::string root = std::string(buffer.data()) + "/";
   const std::string install = root + "Apps/NORVIK/Bin/";
   fs::create_directories(install, ec);
   if (ec || !WriteCountryFile(install + "FXCountries", SampleCountries())) {

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "api/cls_random.h"
+#include "app/headless_services.h"
 #include "forms/application.h"
-#include "platform/headless/headless_services.h"
 #include "scenario_line.h"
 
 namespace nvrandom {

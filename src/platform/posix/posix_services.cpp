@@ -1,3 +1,5 @@
+#include "platform/posix/posix_services.h"
+
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -12,9 +14,6 @@
 #include "platform/memory_clipboard.h"
 #include "platform/path.h"
 #include "platform/re2_regex.h"
-#include "platform/services.h"
-#include "verifier/builtin_account_verifier.h"
-#include "verifier/builtin_bank_check_library.h"
 
 extern char** environ;
 
@@ -102,8 +101,6 @@ Services MakePosixServices() {
   s.directories = std::make_unique<XdgDirectories>();
   s.clock = std::make_unique<LocalClock>();
   s.regex = std::make_unique<Re2Regex>();
-  s.verifiers = std::make_shared<verifier::BuiltinAccountVerifierFactory>();
-  s.bank_checks = std::make_shared<verifier::BuiltinBankCheckLibrary>();
   return s;
 }
 

@@ -3,12 +3,12 @@
 #include <filesystem>
 #include <string>
 
-#include "component/component_host.h"
 #include "component/show_error.h"
 #include "platform/message_box.h"
 #include "platform/runtime_error.h"
+#include "support/test_host.h"
 
-namespace nvrandom::component_test {
+namespace nvrandom::testing {
 namespace {
 
 namespace fs = std::filesystem;
@@ -23,7 +23,7 @@ TEST(ShowError, ShowsTheMessageAndLogsOneLine) {
   for (const Case& row :
        {Case{"", "NVRandom"}, Case{"   ", "NVRandom"}, Case{"Biller", "Biller"}}) {
     SCOPED_TRACE(std::string("title '") + row.title + "'");
-    TempRoot root;
+    TempFolder root;
     Host h;
     h.ctx.store.gstrInstallRoot = root.root();
     ShowError(h.ctx, 5, "D", "P", false, row.title);
@@ -39,7 +39,7 @@ TEST(ShowError, ShowsTheMessageAndLogsOneLine) {
 // Silent reports show nothing but are logged all the same; lines accumulate, and quotation
 // marks in the description are written as they are.
 TEST(ShowError, SilentReportsAreLoggedAndLinesAppend) {
-  TempRoot root;
+  TempFolder root;
   Host h;
   h.ctx.store.gstrInstallRoot = root.root();
   ShowError(h.ctx, 13, "say \"hi\"", "Random.VerifyBusinessNumber", true);
@@ -56,14 +56,14 @@ TEST(ShowError, SilentReportsAreLoggedAndLinesAppend) {
 // The log cannot be written (its name is taken by a folder): the box has been shown and the
 // failure is not reported again. Without a root the log lies in the current directory.
 TEST(ShowError, LogPlaceAndFailures) {
-  TempRoot root;
+  TempFolder root;
   fs::create_directory(root.dir() / "error.log");
   Host h;
   h.ctx.store.gstrInstallRoot = root.root();
   EXPECT_NO_THROW(ShowError(h.ctx, 5, "D", "P"));
   EXPECT_EQ(h.boxes.shown.size(), 1U);
 
-  TempRoot cwd_root;
+  TempFolder cwd_root;
   const CurrentDirectory cwd(cwd_root.dir());
   h.ctx.store.gstrInstallRoot.clear();
   ShowError(h.ctx, 5, "D", "P", true);
@@ -72,7 +72,7 @@ TEST(ShowError, LogPlaceAndFailures) {
 
 // When tracing, the report first writes its trace entry, which spans two lines of the file.
 TEST(ShowError, TraceEntrySpansTwoLines) {
-  TempRoot root;
+  TempFolder root;
   fs::create_directory(root.dir() / "Norvik");
   Host h;
   h.ctx.store.gstrInstallRoot = root.root();
@@ -83,4 +83,4 @@ TEST(ShowError, TraceEntrySpansTwoLines) {
 }
 
 }  // namespace
-}  // namespace nvrandom::component_test
+}  // namespace nvrandom::testing

@@ -7,22 +7,13 @@
 #include <string>
 
 #include "api/cls_random.h"
-#include "component/component_host.h"
-#include "component/show_error.h"
 #include "component/trace.h"
-#include "platform/runtime_error.h"
+#include "support/test_host.h"
 
-namespace nvrandom::component_test {
+namespace nvrandom::testing {
 namespace {
 
 namespace fs = std::filesystem;
-
-bool AnyTraceFileUnder(const fs::path& dir) {
-  for (const auto& entry : fs::recursive_directory_iterator(dir)) {
-    if (entry.path().filename() == "PBP.txt") return true;
-  }
-  return false;
-}
 
 // The trace line is "<general date> NVRANDOM - <label>" CR LF, in PBP.txt of the root's Norvik
 // folder, reached through the doubled separator that the root's own trailing one gives; the
@@ -30,7 +21,7 @@ bool AnyTraceFileUnder(const fs::path& dir) {
 TEST(Trace, LineFormatAndPlace) {
   for (const char* folder : {"Norvik", "NORVIK", "norvik"}) {
     SCOPED_TRACE(folder);
-    TempRoot root;
+    TempFolder root;
     fs::create_directory(root.dir() / folder);
     Host h;
     ClsRandom cls(h.ctx);
@@ -41,98 +32,6 @@ TEST(Trace, LineFormatAndPlace) {
               h.now + " NVRANDOM - ClsRandom - Let PayeeName\r\n");
     EXPECT_EQ(TraceFilePath(h.ctx),
               root.root() + path::kSeparator + folder + path::kSeparator + "PBP.txt");
-  }
-}
-
-// Each property procedure writes its own label, except the few that write none; the country-list
-// selectors carry their globals' names. A call refused at the boundary (the value cannot become
-// the property's type) never enters the procedure; an error inside the procedure comes after
-// its label.
-TEST(Trace, PropertyProceduresWriteTheirLabels) {
-  struct Case {
-    const char* what;
-    std::function<void(ClsRandom&)> act;
-    const char* label;  // nullptr: no line
-  };
-  const auto swallow = [](const std::function<void()>& f) {
-    try {
-      f();
-    } catch (const RuntimeError&) {
-    }
-  };
-  const Case cases[] = {
-      {"typed Let", [](ClsRandom& c) { c.PayeeName("A"); }, "ClsRandom - Let PayeeName"},
-      {"typed Get", [](ClsRandom& c) { c.PayeeName(); }, "ClsRandom - Get PayeeName"},
-      {"Let by name", [](ClsRandom& c) { c.Let("PayeeCity", "X"); }, "ClsRandom - Let PayeeCity"},
-      {"Get of the trace switch", [](ClsRandom& c) { c.PlayByPlayEnabled(); },
-       "ClsRandom - Get PlayByPlayEnabled"},
-      {"CountryListAll", [](ClsRandom& c) { c.CountryListAll("N"); },
-       "ClsRandom - Let gstrCountryListAll"},
-      {"CountryListPartial", [](ClsRandom& c) { c.CountryListPartial("Y"); },
-       "ClsRandom - Let gstrCountryListPartial"},
-      {"Let of the trace switch", [](ClsRandom& c) { c.PlayByPlayEnabled(-1); }, nullptr},
-      {"WhatKindOfBiller",
-       [](ClsRandom& c) {
-         c.WhatKindOfBiller("U");
-         c.WhatKindOfBiller();
-       },
-       nullptr},
-      {"the host's currency and title",
-       [](ClsRandom& c) {
-         c.CurrencyCodeFromMain("USD");
-         c.CurrencyCodeFromMain();
-         c.DescCurrencyCodeFromMain("US Dollar");
-         c.DescCurrencyCodeFromMain();
-         c.FormTitleFromMain("T");
-         c.FormTitleFromMain();
-       },
-       nullptr},
-      {"a value the property's type refuses",
-       [&](ClsRandom& c) { swallow([&] { c.Let("FormStyle", "abc"); }); }, nullptr},
-      {"an error inside the procedure",
-       [&](ClsRandom& c) {
-         swallow([&] { c.Prov_areacode(Variant(StringArray::OneDimensional(0, 3))); });
-       },
-       "ClsRandom - Let Prov_areacode"},
-      {"class initialisation", [](ClsRandom& c) { ClsRandom another(c.context()); },
-       "ClsRandom - Class_Initialize"},
-  };
-  for (const Case& row : cases) {
-    SCOPED_TRACE(row.what);
-    TempRoot root;
-    fs::create_directory(root.dir() / "Norvik");
-    Host h;
-    ClsRandom cls(h.ctx);
-    cls.DLLPath(root.DllPath());
-    cls.PlayByPlayEnabled(-1);
-    row.act(cls);
-    const std::string expected =
-        row.label != nullptr ? h.now + " NVRANDOM - " + row.label + "\r\n" : std::string();
-    EXPECT_EQ(ReadFile(root.dir() / "Norvik" / "PBP.txt"), expected);
-  }
-}
-
-// With tracing off nothing at all is written to the trace folder, whatever the component does;
-// with tracing on but a DLLPath whose folder is "norvik" in lower case there is no root, so no
-// trace either.
-TEST(Trace, NoFileWithoutTracingOrWithoutRoot) {
-  for (const bool tracing : {false, true}) {
-    SCOPED_TRACE(tracing ? "root in lower case" : "tracing off");
-    TempRoot root;
-    fs::create_directory(root.dir() / "Norvik");
-    fs::create_directory(root.dir() / "norvik");
-    const CurrentDirectory cwd(root.dir());
-    Host h;
-    h.driver.script = [](forms::Form& f) { f.Unload(); };
-    ClsRandom cls(h.ctx);
-    cls.PlayByPlayEnabled(tracing ? -1 : 0);
-    cls.DLLPath(tracing ? root.DllPath("norvik") : root.DllPath());
-    cls.PayeeName("ACME");
-    cls.PayeeName();
-    cls.ShowForm();
-    ShowError(h.ctx, 5, "D", "P", true);
-    EXPECT_FALSE(AnyTraceFileUnder(root.dir()));
-    EXPECT_TRUE(fs::is_empty(root.dir() / "Norvik"));
   }
 }
 
@@ -157,7 +56,7 @@ TEST(Trace, WriteFailuresAreSwallowed) {
   };
   for (const Case& row : cases) {
     SCOPED_TRACE(row.what);
-    TempRoot root;
+    TempFolder root;
     row.prepare(root.dir());
     Host h;
     ClsRandom cls(h.ctx);
@@ -173,7 +72,7 @@ TEST(Trace, WriteFailuresAreSwallowed) {
 // The trace folder's resolved name is kept between lines; a folder that appears (in any case)
 // after a line was lost must still receive the next one.
 TEST(Trace, AFolderCreatedLaterIsFound) {
-  TempRoot root;
+  TempFolder root;
   Host h;
   ClsRandom cls(h.ctx);
   cls.PlayByPlayEnabled(-1);
@@ -187,7 +86,7 @@ TEST(Trace, AFolderCreatedLaterIsFound) {
 
 // Lines are appended, one open and close each; a new file starts afresh.
 TEST(Trace, LinesAppendAndANewFileTruncates) {
-  TempRoot root;
+  TempFolder root;
   fs::create_directory(root.dir() / "Norvik");
   Host h;
   h.ctx.store.PlayByPlayEnabled = -1;
@@ -201,4 +100,4 @@ TEST(Trace, LinesAppendAndANewFileTruncates) {
 }
 
 }  // namespace
-}  // namespace nvrandom::component_test
+}  // namespace nvrandom::testing

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "headless_context.h"
+#include "support/test_host.h"
 #include "validation/random.h"
 
 namespace nvrandom {
@@ -23,7 +23,7 @@ struct LookupRow {
 
 class LookupTest : public ::testing::TestWithParam<LookupRow> {
  protected:
-  testing::HeadlessContext h;
+  testing::Host h;
 };
 
 TEST_P(LookupTest, ReadsUnitsAtTheirBoundariesOnly) {
@@ -65,7 +65,7 @@ struct PoBoxRow {
 
 class PoBoxTest : public ::testing::TestWithParam<PoBoxRow> {
  protected:
-  testing::HeadlessContext h;
+  testing::Host h;
 };
 
 TEST_P(PoBoxTest, OnlyABoxWordFollowedByABlankAtTheStartCounts) {

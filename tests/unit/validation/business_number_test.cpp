@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "headless_context.h"
-#include "recording_verifier.h"
+#include "support/test_host.h"
+#include "support/recording_verifier.h"
 #include "validation/random.h"
 
 namespace nvrandom {
@@ -20,7 +20,7 @@ struct BusinessNumberRow {
 class BusinessNumberTest : public ::testing::TestWithParam<BusinessNumberRow> {};
 
 TEST_P(BusinessNumberTest, MadeUpNumbersNeverReachTheVerifier) {
-  testing::HeadlessContext h;
+  testing::Host h;
   testing::VerifierScript script;
   h.ctx.services.verifiers = std::make_shared<testing::RecordingVerifierFactory>(script);
   Random(h.ctx).VerifyBusinessNumber(GetParam().number);
@@ -44,7 +44,7 @@ INSTANTIATE_TEST_SUITE_P(
         BusinessNumberRow{"1234567.8", false}));
 
 TEST(BusinessNumber, IsVerifiedAsAnAccountOfTheRegistry) {
-  testing::HeadlessContext h;
+  testing::Host h;
   testing::VerifierScript script;
   script.result = 2;  // any answer but 0 accepts the number
   h.ctx.services.verifiers = std::make_shared<testing::RecordingVerifierFactory>(script);

@@ -8,7 +8,7 @@
 #include "forms/application.h"
 #include "forms/control.h"
 #include "forms/form.h"
-#include "headless_context.h"
+#include "support/test_host.h"
 #include "validation/random.h"
 
 namespace nvrandom {
@@ -42,7 +42,7 @@ struct CompletionRow {
 
 class ComboBoxAutoCompleteTest : public ::testing::TestWithParam<CompletionRow> {
  protected:
-  testing::HeadlessContext h;
+  testing::Host h;
 };
 
 TEST_P(ComboBoxAutoCompleteTest, CompletesWithTheFirstEntryBeginningWithTheText) {
@@ -89,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
                       4}));
 
 TEST(ComboBoxAutoComplete, AChangeHandlerCallingItAgainSettles) {
-  testing::HeadlessContext h;
+  testing::Host h;
   auto form = std::make_shared<forms::Form>(h.ctx.forms(), kDesign, kControls);
   forms::Control& combo = form->Ctl("cmbProvince");
   combo.AddItem("Manitoba");

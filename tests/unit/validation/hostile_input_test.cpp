@@ -3,7 +3,7 @@
 #include <string>
 
 #include "dialogs/biller/web_address_checks.h"
-#include "headless_context.h"
+#include "support/test_host.h"
 #include "validation/account_prechecks.h"
 #include "validation/random.h"
 
@@ -32,7 +32,7 @@ struct HostileRow {
 
 class HostileInputTest : public ::testing::TestWithParam<HostileRow> {
  protected:
-  testing::HeadlessContext h;
+  testing::Host h;
 };
 
 // Every check gives one of its defined answers and reports no error, whatever it is given.

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "headless_context.h"
 #include "platform/message_box.h"
-#include "recording_verifier.h"
+#include "support/recording_verifier.h"
+#include "support/test_host.h"
 #include "validation/account_prechecks.h"
 #include "validation/random.h"
 
@@ -41,7 +41,7 @@ class RandomBankTest : public ::testing::Test {
   }
 
   testing::TempFolder folder;
-  testing::HeadlessContext h;
+  testing::Host h;
   testing::VerifierScript script;
 };
 
@@ -262,7 +262,7 @@ struct RoutingRow {
 
 class RoutingNumberTest : public ::testing::TestWithParam<RoutingRow> {
  protected:
-  testing::HeadlessContext h;
+  testing::Host h;
 };
 
 TEST_P(RoutingNumberTest, PrefixInUsModeThenLengthAndChecksum) {

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "headless_context.h"
 #include "platform/runtime_error.h"
+#include "support/test_host.h"
 
 namespace nvrandom {
 namespace {
@@ -24,7 +24,7 @@ struct EmailRow {
 
 class ValidateEmailTest : public ::testing::TestWithParam<EmailRow> {
  protected:
-  testing::HeadlessContext h;
+  testing::Host h;
 };
 
 TEST_P(ValidateEmailTest, LengthFirstThenThePattern) {
@@ -74,7 +74,7 @@ struct WebsiteRow {
 
 class ValidateWebsiteTest : public ::testing::TestWithParam<WebsiteRow> {
  protected:
-  testing::HeadlessContext h;
+  testing::Host h;
 };
 
 TEST_P(ValidateWebsiteTest, ADotWithSomethingBeforeIt) {
@@ -99,7 +99,7 @@ struct IsEmailRow {
 
 class IsEmailValidTest : public ::testing::TestWithParam<IsEmailRow> {
  protected:
-  testing::HeadlessContext h;
+  testing::Host h;
 };
 
 TEST_P(IsEmailValidTest, CharacterByCharacter) {
@@ -131,7 +131,7 @@ TEST(WebAddressChecks, AFailingRegexIsRaisedToTheCaller) {
       throw RuntimeError(vb_error::kCannotCreateObject);
     }
   };
-  testing::HeadlessContext h;
+  testing::Host h;
   h.ctx.services.regex = std::make_unique<FailingRegex>();
   std::string message;
   EXPECT_THROW(ValidateEmailAddress(h.ctx, "jane@example.com", message, false), RuntimeError);

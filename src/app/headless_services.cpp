@@ -1,13 +1,14 @@
-#include "platform/headless/headless_services.h"
+#include "app/headless_services.h"
 
 #include <memory>
 
+#include "app/services_factory.h"
 #include "platform/memory_clipboard.h"
 #include "platform/re2_regex.h"
-#include "verifier/builtin_account_verifier.h"
-#include "verifier/builtin_bank_check_library.h"
 
 namespace nvrandom::headless {
+
+using app::AddComponentServices;
 
 int RecordingMessageBox::Show(std::string_view text, int style, std::string_view caption) {
   int answer = DefaultAnswer(style);
@@ -48,8 +49,7 @@ HeadlessServices MakeHeadlessServices(const std::string& windows_dir, const std:
   h.services.clipboard = std::make_unique<MemoryClipboard>();
   h.services.directories = std::make_unique<FixedDirectories>(windows_dir, "/usr/lib");
   h.services.regex = std::make_unique<Re2Regex>();
-  h.services.verifiers = std::make_shared<verifier::BuiltinAccountVerifierFactory>();
-  h.services.bank_checks = std::make_shared<verifier::BuiltinBankCheckLibrary>();
+  AddComponentServices(h.services);
   return h;
 }
 

@@ -10,6 +10,9 @@
 
 namespace nvrandom::headless {
 
+// The services a run without windows answers with. They are the scenario runner's (its scripted
+// answers and its transcript), so they are product code, not test doubles.
+
 // A message box as a test or a scenario sees it.
 struct ShownBox {
   std::string text;
@@ -80,9 +83,10 @@ class FixedDirectories final : public DirectoryService {
   std::string system_;
 };
 
-// The services a headless run uses: recording boxes, shell and help, an in-memory clipboard, a
-// fixed clock, the given folders; the real regex engine and the built-in verifier. The returned
-// pointers stay owned by the Services.
+// The services of a run without windows (the scenario runner, tests, benchmarks, fuzzers):
+// scripted and recording boxes, shell and help, an in-memory clipboard, a fixed clock, the given
+// folders; the real regex engine and the component's own verifier. The returned pointers stay
+// owned by the Services.
 struct HeadlessServices {
   Services services;
   RecordingMessageBox* message_box = nullptr;

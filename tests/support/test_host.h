@@ -1,23 +1,18 @@
 #pragma once
 
-#include <unistd.h>
-
 #include <filesystem>
-#include <fstream>
-#include <functional>
-#include <sstream>
 #include <string>
 
 #include "api/cls_random.h"
+#include "app/headless_services.h"
 #include "component/context.h"
 #include "forms/application.h"
-#include "forms/form.h"
-#include "platform/headless/headless_services.h"
 #include "platform/path.h"
 #include "support/scripted_driver.h"
 #include "support/test_files.h"
+#include "validation/address_rules.h"
 
-namespace nvrandom::component_test {
+namespace nvrandom::testing {
 
 // A path written with "/" in the platform's separator.
 inline std::string P(std::string text) {
@@ -26,9 +21,6 @@ inline std::string P(std::string text) {
   }
   return text;
 }
-
-using TempRoot = testing::TempFolder;
-using testing::ReadFile;
 
 // Makes `dir` the current directory for its lifetime (an empty root puts the error log there).
 class CurrentDirectory {
@@ -48,8 +40,6 @@ class CurrentDirectory {
   std::filesystem::path saved_;
 };
 
-using testing::ScriptedDriver;
-
 // The events a host received.
 struct RecordingSink final : ClsRandomEvents {
   void CSBOK() override { log += "CSBOK;"; }
@@ -61,16 +51,21 @@ struct RecordingSink final : ClsRandomEvents {
   std::string log;
 };
 
-// One component state on recording services, with a scripted modal driver.
+// One component state on the headless services, with a scripted modal driver and the
+// post-office-box words that class initialisation would split into the store.
 struct Host {
-  Host() { ctx.forms().SetModalDriver(&driver); }
+  Host() {
+    ctx.store.poBoxWords = validation::SplitPoBoxWords();
+    ctx.forms().SetModalDriver(&driver);
+  }
 
   headless::HeadlessServices headless = headless::MakeHeadlessServices();
   headless::RecordingMessageBox& boxes = *headless.message_box;
+  headless::RecordingShell& shell = *headless.shell;
   headless::RecordingHelp& help = *headless.help;
   std::string now = headless.clock->Now();
   Context ctx{std::move(headless.services)};
   ScriptedDriver driver;
 };
 
-}  // namespace nvrandom::component_test
+}  // namespace nvrandom::testing

@@ -1,0 +1,67 @@
+#include "app/services_factory.h"
+
+#include <memory>
+#include <mutex>
+#include <utility>
+
+#ifdef _WIN32
+#include "platform/win32/win32_services.h"
+#else
+#include "platform/posix/posix_services.h"
+#endif
+#include "verifier/builtin_account_verifier.h"
+#include "verifier/builtin_bank_check_library.h"
+
+namespace nvrandom::app {
+
+namespace {
+
+struct FactorySlot {
+  std::mutex mutex;
+  ServicesFactory factory;
+};
+
+FactorySlot& Slot() {
+  static FactorySlot slot;
+  return slot;
+}
+
+}  // namespace
+
+void AddComponentServices(Services& services) {
+  if (!services.verifiers) {
+    services.verifiers = std::make_shared<verifier::BuiltinAccountVerifierFactory>();
+  }
+  if (!services.bank_checks) {
+    services.bank_checks = std::make_shared<verifier::BuiltinBankCheckLibrary>();
+  }
+}
+
+Services MakePlatformServices() {
+#ifdef _WIN32
+  Services services = MakeWin32Services();
+#else
+  Services services = MakePosixServices();
+#endif
+  AddComponentServices(services);
+  return services;
+}
+
+void SetDefaultServicesFactory(ServicesFactory factory) {
+  std::lock_guard lock(Slot().mutex);
+  Slot().factory = std::move(factory);
+}
+
+Services MakeDefaultServices() {
+  ServicesFactory factory;
+  {
+    std::lock_guard lock(Slot().mutex);
+    factory = Slot().factory;
+  }
+  if (!factory) return MakePlatformServices();
+  Services services = factory();
+  AddComponentServices(services);
+  return services;
+}
+
+}  // namespace nvrandom::app
