@@ -50,6 +50,7 @@ HeadlessServices MakeHeadlessServices(const std::string& windows_dir, const std:
   h.services.regex = std::make_unique<Re2Regex>();
   h.services.verifiers = std::make_shared<verifier::BuiltinAccountVerifierFactory>();
   h.services.bank_checks = std::make_shared<verifier::BuiltinBankCheckLibrary>();
+  h.services.country_file = std::make_unique<BuiltinCountryFileDecipher>();
   return h;
 }
 

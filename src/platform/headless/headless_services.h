@@ -81,8 +81,8 @@ class FixedDirectories final : public DirectoryService {
 };
 
 // The services a headless run uses: recording boxes, shell and help, an in-memory clipboard, a
-// fixed clock, the given folders; the real regex engine and the built-in verifier. The returned
-// pointers stay owned by the Services.
+// fixed clock, the given folders; the real regex engine, the built-in verifier and country-file
+// decipher. The returned pointers stay owned by the Services.
 struct HeadlessServices {
   Services services;
   RecordingMessageBox* message_box = nullptr;

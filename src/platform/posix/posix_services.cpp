@@ -104,6 +104,7 @@ Services MakePosixServices() {
   s.regex = std::make_unique<Re2Regex>();
   s.verifiers = std::make_shared<verifier::BuiltinAccountVerifierFactory>();
   s.bank_checks = std::make_shared<verifier::BuiltinBankCheckLibrary>();
+  s.country_file = std::make_unique<BuiltinCountryFileDecipher>();
   return s;
 }
 
