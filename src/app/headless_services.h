@@ -85,8 +85,8 @@ class FixedDirectories final : public DirectoryService {
 
 // The services of a run without windows (the scenario runner, tests, benchmarks, fuzzers):
 // scripted and recording boxes, shell and help, an in-memory clipboard, a fixed clock, the given
-// folders; the real regex engine and the component's own verifier. The returned pointers stay
-// owned by the Services.
+// folders; the real regex engine, the component's own verifier and country-file decipher. The
+// returned pointers stay owned by the Services.
 struct HeadlessServices {
   Services services;
   RecordingMessageBox* message_box = nullptr;

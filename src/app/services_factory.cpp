@@ -9,6 +9,7 @@
 #else
 #include "platform/posix/posix_services.h"
 #endif
+#include "platform/country_file_source.h"
 #include "verifier/builtin_account_verifier.h"
 #include "verifier/builtin_bank_check_library.h"
 
@@ -34,6 +35,9 @@ void AddComponentServices(Services& services) {
   }
   if (!services.bank_checks) {
     services.bank_checks = std::make_shared<verifier::BuiltinBankCheckLibrary>();
+  }
+  if (!services.country_file) {
+    services.country_file = std::make_unique<BuiltinCountryFileDecipher>();
   }
 }
 

@@ -12,7 +12,8 @@ namespace nvrandom::app {
 // (headless_services.h).
 
 // The services the component supplies itself whatever the platform: the built-in account
-// verifier and bank-check library. Fills only the members that are still empty.
+// verifier, bank-check library and country-file decipher. Fills only the members that are still
+// empty (a Windows build puts the installed closed libraries there first).
 void AddComponentServices(Services& services);
 
 // The platform's services plus the component's: POSIX, or in a Windows build the Win32 ones

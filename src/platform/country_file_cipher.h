@@ -4,16 +4,16 @@
 #include <string>
 #include <string_view>
 
+// The country file's text in and out of its enciphered form (layout and key in
+// country_file_format.h). Both work in memory: no plain copy is ever written by this code.
 namespace nvrandom::country_file {
 
-// The country file is kept enciphered so that it is not edited by hand: "NVC1", a random 16-byte
-// initialisation vector, then the text under AES-128-CBC with the component's built-in key.
+// A fresh nonce each call, so enciphering the same text twice gives different files. nullopt
+// when the system's random source or the cipher fails.
+std::optional<std::string> Encipher(std::string_view plain_text);
 
-std::string Encipher(std::string_view plain_text);
-// nullopt when the data is not an enciphered country file (wrong header, damaged, truncated).
+// nullopt when the data is not an intact country file of this version: wrong magic or version,
+// truncated, or any byte changed.
 std::optional<std::string> Decipher(std::string_view enciphered);
-
-// Deciphers the file `from` into the file `to`; false (and `to` untouched) on any failure.
-bool DecipherFile(const std::string& from, const std::string& to);
 
 }  // namespace nvrandom::country_file

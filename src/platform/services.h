@@ -4,6 +4,7 @@
 
 #include "platform/clipboard.h"
 #include "platform/clock.h"
+#include "platform/country_file_source.h"
 #include "platform/directories.h"
 #include "platform/message_box.h"
 #include "platform/regex.h"
@@ -27,6 +28,7 @@ struct Services {
   std::unique_ptr<RegexService> regex;
   std::shared_ptr<AccountVerifierFactory> verifiers;
   std::shared_ptr<BankCheckLibrary> bank_checks;
+  std::unique_ptr<CountryFileDecipher> country_file;
 };
 
 }  // namespace nvrandom

@@ -28,8 +28,10 @@ bool WriteCountryFile(const std::string& file, std::string_view plain_rows) {
       text += c;
     }
   }
+  const auto enciphered = country_file::Encipher(text);
+  if (!enciphered) return false;
   std::ofstream out(file, std::ios::binary | std::ios::trunc);
-  return static_cast<bool>(out << country_file::Encipher(text));
+  return static_cast<bool>(out << *enciphered);
 }
 
 InstallationTree::InstallationTree() {

@@ -1,0 +1,74 @@
+#include "dialogs/biller/country_file_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace nvrandom {
+
+void PrintTo(const CountryRecord& r, std::ostream* os) {
+  *os << '{' << r.name << '|' << r.code << '|' << r.phone << '}';
+}
+
+namespace {
+
+using namespace std::string_literals;
+using Records = std::vector<CountryRecord>;
+
+struct ReaderRow {
+  const char* why;
+  std::string text;
+  Records expected;
+};
+
+class ReadCountryRecordsTest : public ::testing::TestWithParam<ReaderRow> {};
+
+TEST_P(ReadCountryRecordsTest, Reads) {
+  EXPECT_EQ(ReadCountryRecords(GetParam().text), GetParam().expected) << GetParam().why;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ReadCountryRecordsTest,
+    ::testing::Values(
+        ReaderRow{"heading set aside, fields trimmed, CR LF and a last line without end",
+                  "Country,Code,Phone\r\n  France , FR ,\t33\r\nJapan,JP,81",
+                  {{"France", "FR", "33"}, {"Japan", "JP", "81"}}},
+        ReaderRow{"a one-value heading, blank lines anywhere, lines ended by CR alone",
+                  "\n\nCountry\n\n   \nPeru,PE,51\rChad,TD,235\r\r",
+                  {{"Peru", "PE", "51"}, {"Chad", "TD", "235"}}},
+        ReaderRow{"no heading: the first line is a country and is kept",
+                  "France,FR,33\nJapan,JP,81\n",
+                  {{"France", "FR", "33"}, {"Japan", "JP", "81"}}},
+        ReaderRow{"quoted comma, doubled quote, spaces around the quotes",
+                  "H\n \"Korea, Republic of\" ,KR,82\n\"Cote \"\"Ivory\"\"\",CI,225\n",
+                  {{"Korea, Republic of", "KR", "82"}, {"Cote \"Ivory\"", "CI", "225"}}},
+        ReaderRow{"an open quote ends with its line and does not swallow the next",
+                  "H\n\"Nowhere,XX,0\nPeru,PE,51\n",
+                  {{"Peru", "PE", "51"}}},
+        ReaderRow{"two fields, four fields, empty name or code skipped; trailing empty "
+                  "fields and an empty phone kept",
+                  "H\nChad,TD\nBosnia, and more,BA,387\n,ZZ,1\nNone,,1\n"
+                  "Peru,PE,51,,\nBouvet Island,BV,\n",
+                  {{"Peru", "PE", "51"}, {"Bouvet Island", "BV", ""}}},
+        ReaderRow{"bytes that are not text pass through as they are",
+                  "H\n\xff\x01"s + '\0' + "x,Q\x80,\x7f\n",
+                  {{"\xff\x01"s + '\0' + "x", "Q\x80", "\x7f"}}},
+        ReaderRow{"nothing to read", "", {}}));
+
+// A 100,000-character record, a line of commas and a 10 MiB file are read in one pass.
+TEST(ReadCountryRecords, LongInputs) {
+  const std::string long_name(100'000, 'n');
+  EXPECT_EQ(ReadCountryRecords("H\n" + long_name + ",LN,1\n"), (Records{{long_name, "LN", "1"}}));
+  EXPECT_TRUE(ReadCountryRecords("H\n" + std::string(1'000'000, ',')).empty());
+  std::string big = "Country,Code,Phone\n";
+  while (big.size() < (10u << 20)) big += "\"Saint, Somewhere\",SS,1869\r\n";
+  const Records records = ReadCountryRecords(big);
+  ASSERT_FALSE(records.empty());
+  EXPECT_EQ(records.size(), (big.size() - 19) / 28);
+  EXPECT_EQ(records.back(), (CountryRecord{"Saint, Somewhere", "SS", "1869"}));
+}
+
+}  // namespace
+}  // namespace nvrandom

@@ -1,0 +1,108 @@
+#include "countries_command.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "installation_tree.h"
+#include "platform/country_file_format.h"
+#include "support/test_files.h"
+
+namespace nvrandom {
+namespace {
+
+struct CommandRun {
+  int code;
+  std::string out;
+  std::string err;
+};
+
+CommandRun Countries(const std::vector<std::string>& args) {
+  std::ostringstream out;
+  std::ostringstream err;
+  const int code = CountriesCommand(args, out, err);
+  return {code, out.str(), err.str()};
+}
+
+void Write(const std::filesystem::path& file, const std::string& data) {
+  std::ofstream(file, std::ios::binary | std::ios::trunc) << data;
+}
+
+// The text without the CRs the enciphered file puts before each LF.
+std::string WithoutCr(std::string text) {
+  std::erase(text, '\r');
+  return text;
+}
+
+class CountriesCommandTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    Write(plain_, std::string(scenario::SampleCountries()));
+    ASSERT_EQ(Countries({"encipher", plain_.string(), sealed_.string()}).code, 0);
+    sealed_bytes_ = testing::ReadFile(sealed_);
+  }
+
+  testing::TempFolder folder_;
+  std::filesystem::path plain_ = folder_.path() / "countries.csv";
+  std::filesystem::path sealed_ = folder_.path() / "FXCountries";
+  std::string sealed_bytes_;
+};
+
+// The sample list comes back whole through list and decipher; the enciphered file does not show
+// the rows' text, and enciphering it again gives other bytes (a fresh nonce) that read the same.
+TEST_F(CountriesCommandTest, RoundTripsTheSampleFile) {
+  const CommandRun list = Countries({"list", sealed_.string()});
+  EXPECT_EQ(list.code, 0) << list.err;
+  EXPECT_EQ(WithoutCr(list.out), scenario::SampleCountries());
+  const auto copy = folder_.path() / "copy.csv";
+  EXPECT_EQ(Countries({"decipher", sealed_.string(), copy.string()}).code, 0);
+  EXPECT_EQ(testing::ReadFile(copy), list.out);
+  EXPECT_EQ(sealed_bytes_.find("Canada"), std::string::npos);
+
+  ASSERT_EQ(Countries({"encipher", plain_.string(), copy.string()}).code, 0);
+  EXPECT_NE(testing::ReadFile(copy), sealed_bytes_);
+  EXPECT_EQ(Countries({"list", copy.string()}).out, list.out);
+}
+
+// Every part of the file is covered: a changed byte of magic, version, nonce, text or tag, or a
+// file cut short, is refused, and nothing is written for decipher.
+TEST_F(CountriesCommandTest, RefusesTamperedFiles) {
+  const size_t size = sealed_bytes_.size();
+  const auto flipped = [&](size_t at) {
+    std::string bytes = sealed_bytes_;
+    bytes[at] = static_cast<char>(bytes[at] ^ 0x01);
+    return bytes;
+  };
+  const struct {
+    const char* what;
+    std::string bytes;
+  } cases[] = {
+      {"magic", flipped(0)},
+      {"version", flipped(4)},
+      {"nonce", flipped(10)},
+      {"text", flipped(country_file::kHeaderSize + 5)},
+      {"tag", flipped(size - 1)},
+      {"last byte cut", sealed_bytes_.substr(0, size - 1)},
+      {"header only", sealed_bytes_.substr(0, country_file::kHeaderSize)},
+      {"empty", ""},
+      {"older format", "NVC1" + std::string(48, 'x')},
+  };
+  for (const auto& c : cases) {
+    Write(sealed_, c.bytes);
+    const CommandRun list = Countries({"list", sealed_.string()});
+    EXPECT_EQ(list.code, 1) << c.what;
+    EXPECT_EQ(list.out, "") << c.what;
+    EXPECT_NE(list.err.find("is not an intact enciphered country file"), std::string::npos)
+        << c.what;
+    const auto copy = folder_.path() / "copy.csv";
+    EXPECT_EQ(Countries({"decipher", sealed_.string(), copy.string()}).code, 1) << c.what;
+    EXPECT_FALSE(std::filesystem::exists(copy)) << c.what;
+  }
+  EXPECT_EQ(Countries({"list", (folder_.path() / "missing").string()}).code, 1);
+}
+
+}  // namespace
+}  // namespace nvrandom
