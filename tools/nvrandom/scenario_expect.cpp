@@ -334,8 +334,7 @@ void ScenarioRun::ExpectAttribute(const std::vector<Word>& w) {
     } else if (const forms::Control* c = FindControl(w[2], false)) {
       got = c->GetProperty(property);
     } else {
-      Fail("expected " + property + " of " + w[2].text +
-           ", got no such control on an open dialog");
+      Fail("expected " + property + " of " + w[2].text + ", got no such control on an open dialog");
       return;
     }
   } catch (const RuntimeError& e) {
