@@ -25,12 +25,12 @@ std::shared_ptr<frmRandomInfo> frmRandomInfo::Create(Context& ctx, RandomInfoEve
 
 frmRandomInfo::frmRandomInfo(Context& ctx, RandomInfoEvents* events)
     : forms::Form(ctx.forms(), RandomInfoForm(), RandomInfoControls()), ctx_(ctx), events_(events) {
-  Find("cmd_cancel")->events.Click = [this] { cmd_cancel_Click(); };
-  Find("cmd_help")->events.Click = [this] { cmd_help_Click(); };
-  Find("cmdCheque")->events.Click = [this] { cmdCheque_Click(); };
-  Find("ctHyperLink1")->events.Click = [this] { ctHyperLink1_Click(); };
+  On("cmd_cancel").Click = [this] { cmd_cancel_Click(); };
+  On("cmd_help").Click = [this] { cmd_help_Click(); };
+  On("cmdCheque").Click = [this] { cmdCheque_Click(); };
+  On("ctHyperLink1").Click = [this] { ctHyperLink1_Click(); };
   for (int i = 0; Find("imgHelpCSFTInfo", i) != nullptr; ++i) {
-    Find("imgHelpCSFTInfo", i)->events.Click = [this, i] { imgHelpCSFTInfo_Click(i); };
+    On("imgHelpCSFTInfo", i).Click = [this, i] { imgHelpCSFTInfo_Click(i); };
   }
 }
 
