@@ -5,6 +5,7 @@
 
 #include <dirent.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -42,6 +43,15 @@ std::optional<std::string> ReadFile(const std::string& file) {
   std::string content((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
   if (in.bad()) return std::nullopt;
   return content;
+}
+
+bool CopyFile(const std::string& from, const std::string& to) {
+  namespace fs = std::filesystem;
+  std::error_code error;
+  const fs::path target(to);
+  if (target.has_parent_path()) fs::create_directories(target.parent_path(), error);
+  if (error) return false;
+  return fs::copy_file(from, target, fs::copy_options::overwrite_existing, error) && !error;
 }
 
 bool FileExists(const std::string& file) {
