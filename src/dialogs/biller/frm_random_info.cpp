@@ -113,6 +113,12 @@ bool frmRandomInfo::FocusIfUsable(std::string_view name) {
 void frmRandomInfo::Form_Load() {
   Trace("Form_Load");
   frame3_height_at_load_ = Ctl("Frame3").Height();
+  // The biller's name and account read as fields this dialog does not change; restyling leaves
+  // them so.
+  for (const char* shown : {"ran_payee_name", "ran_payee_account"}) {
+    Ctl(shown).SetBackColor(forms::colors::kWindowBackground);
+    Ctl(shown).SetTag(random_info_text::kNoStyle);
+  }
   SetupForm();
   bank_texts_at_setup_ = {Ctl("txtAccount").Text(), Ctl("txtBankID").Text(),
                           Ctl("txtTransit").Text(), Ctl("txtRoutingNumber").Text(),

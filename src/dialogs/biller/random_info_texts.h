@@ -16,6 +16,8 @@ inline constexpr const char* kFrame1 =
 inline constexpr const char* kImportFrameCaption = "Information about this Biller/Payee";
 inline constexpr const char* kViewBankingInformation = "View Banking Information";
 inline constexpr const char* kCloseCaption = "Close";
+// The tag of controls that restyling leaves as designed.
+inline constexpr const char* kNoStyle = "noStyle";
 
 // Captions that change with the home currency and the biller kind.
 inline constexpr const char* kZipCode = "Zip Code:";
