@@ -7,6 +7,7 @@
 
 #include "api/cls_random.h"
 #include "component/context.h"
+#include "dialogs/biller/country_file_reader.h"
 #include "dialogs/biller/frm_random_info.h"
 #include "dialogs/support/mod_form_controller.h"
 #include "forms/application.h"
@@ -21,10 +22,11 @@ namespace {
 // A sample of the host's currency list: code and description per row.
 StringArray HostCurrencies() {
   static constexpr const char* kRows[][2] = {
-      {"USD", "US Dollar"},        {"EUR", "Euro"},           {"GBP", "Pound Sterling"},
-      {"MXN", "Mexican Peso"},     {"CHF", "Swiss Franc"},    {"CNY", "Yuan Renminbi"},
-      {"INR", "Indian Rupee"},     {"HKD", "Hong Kong Dollar"}, {"SGD", "Singapore Dollar"},
-      {"NZD", "New Zealand Dollar"}};
+      {"USD", "US Dollar"},        {"EUR", "Euro"},
+      {"GBP", "Pound Sterling"},   {"MXN", "Mexican Peso"},
+      {"CHF", "Swiss Franc"},      {"CNY", "Yuan Renminbi"},
+      {"INR", "Indian Rupee"},     {"HKD", "Hong Kong Dollar"},
+      {"SGD", "Singapore Dollar"}, {"NZD", "New Zealand Dollar"}};
   constexpr int32_t kCount = static_cast<int32_t>(std::size(kRows));
   StringArray list = StringArray::TwoDimensional(0, 1, 0, kCount - 1);
   for (int32_t i = 0; i < kCount; ++i) {
@@ -57,19 +59,51 @@ class CancelWhenActive final : public forms::ModalDriver {
   void RunModal(forms::Form& form) override { forms::user::Click(form.Ctl("cmd_cancel")); }
 };
 
+// A country file as long as a list of every country (some 250), for while the sample is shorter.
+std::string EveryCountryLong() {
+  std::string rows = "Country,Code,Phone\n";
+  for (char a = 'A'; a <= 'J'; ++a) {
+    for (char b = 'A'; b <= 'Y'; ++b) {
+      rows += std::string("Country of ") + a + b + " and its islands," + a + b + "," +
+              std::to_string((a - 'A') * 25 + (b - 'A') + 200) + "\n";
+    }
+  }
+  return rows;
+}
+
+// state.range(0): 0 the sample country file as installed, 1 one as long as every country's.
 void BM_ShowFormToActivateThenCancel(benchmark::State& state) {
   Installed c;
   if (!c.tree.ok()) return state.SkipWithError("cannot make the installation tree");
+  if (state.range(0) == 1 &&
+      !scenario::WriteCountryFile(c.tree.install() + "FXCountries", EveryCountryLong())) {
+    return state.SkipWithError("cannot write the long country file");
+  }
+  {
+    // The whole sample file is offered: every country of it, not the two a failed read leaves.
+    auto dialog = frmRandomInfo::Create(c.ctx, nullptr);
+    dialog->EnsureLoaded();
+    const int countries = dialog->Ctl("ran_payee_country").ListCount();
+    dialog->Unload();
+    state.counters["countries"] = countries;
+    const size_t sample =
+        ReadCountryRecords(state.range(0) == 1 ? EveryCountryLong() : scenario::SampleCountries())
+            .size();
+    if (countries < 3 || static_cast<size_t>(countries) < sample) {
+      return state.SkipWithError("the sample country file was not read whole");
+    }
+  }
   CancelWhenActive driver;
   c.ctx.forms().SetModalDriver(&driver);
   for (auto _ : state) {
     if (c.cls.ShowForm() != 50000) return state.SkipWithError("the dialog was not cancelled");
   }
   if (!c.headless.message_box->shown.empty()) {
-    state.SkipWithError(("a message box was shown: " + c.headless.message_box->shown[0].text).c_str());
+    state.SkipWithError(
+        ("a message box was shown: " + c.headless.message_box->shown[0].text).c_str());
   }
 }
-BENCHMARK(BM_ShowFormToActivateThenCancel)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_ShowFormToActivateThenCancel)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 // One pass over the loaded dialog. "Same style" finds every property set already (the usual
 // activation); "style change" alternates two styles, so every pass changes and notifies them.
