@@ -626,8 +626,8 @@ constexpr std::array kControls = std::to_array<ControlDesign>({
      .width = 5000,
      .height = kLabelHeight},
 
-    // International payments: the explanation, its help icon and the button, side by side; the
-    // button only for an international biller.
+    // International payments: the explanation, its help icon and the button, side by side. The
+    // business layout shows the explanation, an international biller the button too.
     {.kind = K::kLabel,
      .name = "lblFXBankingInfo",
      .container = "Frame1",
@@ -637,7 +637,8 @@ constexpr std::array kControls = std::to_array<ControlDesign>({
      .left = 240,
      .top = kFXTop,
      .width = 6480,
-     .height = 720},
+     .height = 720,
+     .visible = false},
     {.kind = K::kCommandButton,
      .name = "cmdFXBankingInfo",
      .container = "Frame1",

@@ -285,8 +285,9 @@ void frmRandomInfo::SetupIndividualForm() {
       "Label3",
   };
   for (const char* name : kHidden) Ctl(name).SetVisible(false);
-  // The address, phone and business number help icons.
-  for (int i = 1; i <= 3; ++i) Ctl("imgHelpCSFTInfo", i).SetVisible(false);
+  // The address, phone and international payment help icons (the business number's goes with
+  // its frame).
+  for (int i : {1, 2, 5}) Ctl("imgHelpCSFTInfo", i).SetVisible(false);
 
   forms::Control& email_mark = Ctl("lblAsterisk", 2);
   email_mark.SetVisible(true);
