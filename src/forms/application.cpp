@@ -9,8 +9,37 @@
 
 namespace nvrandom::forms {
 
+std::string_view FormEventName(FormEvent event) {
+  switch (event) {
+    case FormEvent::kLoaded:
+      return "loaded";
+    case FormEvent::kShownModal:
+      return "shown modal";
+    case FormEvent::kShownEmbedded:
+      return "shown embedded";
+    case FormEvent::kActivated:
+      return "activated";
+    case FormEvent::kHidden:
+      return "hidden";
+    case FormEvent::kUnloaded:
+      return "unloaded";
+  }
+  return "?";
+}
+
 Application::Application(ClipboardService& clipboard) : clipboard_(clipboard) {}
 Application::~Application() = default;
+
+// Calls every observer on a copy of the list, skipping those removed meanwhile: an observer may
+// add or remove observers, itself included, from inside a notification.
+template <typename Call>
+void Application::Tell(const Call& call) {
+  if (observers_.empty()) return;
+  const std::vector<FormObserver*> snapshot = observers_;
+  for (FormObserver* o : snapshot) {
+    if (std::find(observers_.begin(), observers_.end(), o) != observers_.end()) call(*o);
+  }
+}
 
 Form* Application::ActiveForm() const {
   return shown_.empty() ? nullptr : shown_.back();
@@ -40,10 +69,23 @@ bool Application::TakesInput(const Control& control) const {
   return ActiveForm() == &control.form() && ShownAndEnabled(control);
 }
 
+Control* Application::NextTabStop(const Control& from) {
+  Control* next = nullptr;
+  Control* first = nullptr;
+  for (const auto& c : from.form().Controls()) {
+    if (!c->TabStop() || c.get() == &from || !Available(*c)) continue;
+    if (first == nullptr || c->TabIndex() < first->TabIndex()) first = c.get();
+    if (c->TabIndex() > from.TabIndex() && (next == nullptr || c->TabIndex() < next->TabIndex())) {
+      next = c.get();
+    }
+  }
+  return next != nullptr ? next : first;
+}
+
 bool Application::SetFocus(Control& control) {
   Form& form = control.form();
   if (!Available(control) || ActiveForm() != &form) {
-    for (FormObserver* o : observers_) o->FocusRefused(control);
+    Tell([&](FormObserver& o) { o.FocusRefused(control); });
     return false;
   }
   if (focus_depth_ > 0) {
@@ -51,26 +93,54 @@ bool Application::SetFocus(Control& control) {
     pending_focus_ = &control;
     return true;
   }
-  MoveFocus(form, control);
+  MoveFocus(form, &control);
   // Moves asked for during the handlers, in order; bounded so handlers that bounce the focus
   // between two controls cannot hang the host.
   for (int bounce = 0; pending_focus_ != nullptr && bounce < 64; ++bounce) {
     Control* next = std::exchange(pending_focus_, nullptr);
-    if (Available(*next) && ActiveForm() == &next->form()) MoveFocus(next->form(), *next);
+    if (Available(*next) && ActiveForm() == &next->form()) MoveFocus(next->form(), next);
   }
   pending_focus_ = nullptr;
   return true;
 }
 
-void Application::MoveFocus(Form& form, Control& target) {
+// The focused control (or a container around it) was hidden or disabled: the focus moves to the
+// next control in tab order that can take it, as the platform moves it. When none is left, no
+// control has the focus (LostFocus still fires on the old one) and keys go nowhere until a
+// control is focused again.
+void Application::FocusMayBeLost(Control& changed) {
+  Form& form = changed.form();
+  Control* active = form.active_control_;
+  if (active == nullptr || Available(*active)) return;
+  bool inside = false;
+  for (const Control* c = active; c != nullptr && !inside; c = c->Container()) {
+    inside = c == &changed;
+  }
+  if (!inside) return;
+  Control* next = NextTabStop(*active);
+  if (!form.Visible() || ActiveForm() != &form) {
+    // Not on screen: the form remembers where the focus will be when it is shown again.
+    form.active_control_ = next;
+    return;
+  }
+  if (next == nullptr) {
+    MoveFocus(form, nullptr);
+  } else if (focus_depth_ > 0) {
+    pending_focus_ = next;  // follows the move under way
+  } else {
+    SetFocus(*next);
+  }
+}
+
+void Application::MoveFocus(Form& form, Control* target) {
   Control* old = form.active_control_;
-  if (old == &target) return;
+  if (old == target) return;
   ++focus_depth_;
-  form.active_control_ = &target;
-  for (FormObserver* o : observers_) o->FocusChanged(form, &target);
+  form.active_control_ = target;
+  Tell([&](FormObserver& o) { o.FocusChanged(form, target); });
   try {
     if (old != nullptr && old->events.LostFocus) old->events.LostFocus();
-    if (form.IsLoaded() && target.events.GotFocus) target.events.GotFocus();
+    if (target != nullptr && form.IsLoaded() && target->events.GotFocus) target->events.GotFocus();
   } catch (...) {
     --focus_depth_;
     throw;
@@ -138,26 +208,37 @@ void Application::RemoveObserver(FormObserver* observer) {
   observers_.erase(std::remove(observers_.begin(), observers_.end(), observer), observers_.end());
 }
 
-void Application::NotifyControl(Control& control) {
-  for (FormObserver* o : observers_) o->ControlChanged(control);
+void Application::NotifyControl(Control& control, Property property) {
+  Tell([&](FormObserver& o) { o.ControlChanged(control, property); });
 }
 
-void Application::NotifyForm(Form& form) {
-  for (FormObserver* o : observers_) o->FormChanged(form);
+void Application::NotifyForm(Form& form, Property property) {
+  Tell([&](FormObserver& o) { o.FormChanged(form, property); });
+}
+
+void Application::Lifecycle(Form& form, FormEvent event) {
+  Tell([&](FormObserver& o) { o.FormLifecycle(form, event); });
+}
+
+void Application::Activate(Form& form) {
+  Lifecycle(form, FormEvent::kActivated);
+  form.Form_Activate();
 }
 
 void Application::FormLoaded(Form& form) {
   loaded_.push_back(form.shared_from_this());
-  NotifyForm(form);
+  Lifecycle(form, FormEvent::kLoaded);
 }
 
 void Application::FormShown(Form& form, bool modal) {
   shown_.erase(std::remove(shown_.begin(), shown_.end(), &form), shown_.end());
   shown_.push_back(&form);
-  NotifyForm(form);
-  form.Form_Activate();
+  Lifecycle(form, modal ? FormEvent::kShownModal : FormEvent::kShownEmbedded);
+  Activate(form);
   // The first available tab stop takes the focus unless Activate placed it.
-  if (form.IsLoaded() && form.Visible() && form.ActiveControl() == nullptr) {
+  if (form.IsLoaded() && form.Visible() &&
+      (form.ActiveControl() == nullptr || !Available(*form.ActiveControl()))) {
+    form.active_control_ = nullptr;
     Control* first = nullptr;
     for (const auto& c : form.Controls()) {
       if (c->TabStop() && Available(*c) &&
@@ -187,13 +268,13 @@ void Application::FormShown(Form& form, bool modal) {
 }
 
 void Application::Reactivate() {
-  if (Form* front = ActiveForm()) front->Form_Activate();
+  if (Form* front = ActiveForm()) Activate(*front);
 }
 
 void Application::FormHidden(Form& form) {
   const bool was_front = ActiveForm() == &form;
   shown_.erase(std::remove(shown_.begin(), shown_.end(), &form), shown_.end());
-  NotifyForm(form);
+  Lifecycle(form, FormEvent::kHidden);
   if (was_front) Reactivate();
 }
 
@@ -202,7 +283,7 @@ void Application::FormUnloaded(Form& form) {
   shown_.erase(std::remove(shown_.begin(), shown_.end(), &form), shown_.end());
   const auto self = form.shared_from_this();
   loaded_.erase(std::remove(loaded_.begin(), loaded_.end(), self), loaded_.end());
-  NotifyForm(form);
+  Lifecycle(form, FormEvent::kUnloaded);
   if (was_front) Reactivate();
 }
 

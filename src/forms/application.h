@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/property.h"
+
 namespace nvrandom {
 class ClipboardService;
 }
@@ -26,12 +28,43 @@ class ModalDriver {
   virtual void RunModal(Form& form) = 0;
 };
 
-// Views and transcripts observe the model; nothing polls.
+// The stages of a form's life, each told to the observers once, in this order for a form shown
+// and closed: kLoaded (its controls exist and hold their designed values), kShownModal or
+// kShownEmbedded (visible; embedded: shown without a modal loop, inside the host's window),
+// kActivated (it became the front-most form, also again when a form over it went away),
+// kHidden, kUnloaded.
+enum class FormEvent : uint8_t {
+  kLoaded,
+  kShownModal,
+  kShownEmbedded,
+  kActivated,
+  kHidden,
+  kUnloaded,
+};
+
+std::string_view FormEventName(FormEvent event);
+
+// Views and transcripts observe the model; nothing polls. Observers may be added and removed
+// during a notification: one added then hears the next notification, one removed hears no more.
 class FormObserver {
  public:
   virtual ~FormObserver() = default;
-  virtual void ControlChanged(Control& control) { (void)control; }
-  virtual void FormChanged(Form& form) { (void)form; }
+  // One property of a control changed (a whole list fill is one kList).
+  virtual void ControlChanged(Control& control, Property property) {
+    (void)control;
+    (void)property;
+  }
+  // One of the form's own properties changed (Caption, Left, Top, Width, Height, BackColor,
+  // FontName).
+  virtual void FormChanged(Form& form, Property property) {
+    (void)form;
+    (void)property;
+  }
+  virtual void FormLifecycle(Form& form, FormEvent event) {
+    (void)form;
+    (void)event;
+  }
+  // The focus moved to `now` (nullptr: no control of the form has it).
   virtual void FocusChanged(Form& form, Control* now) {
     (void)form;
     (void)now;
@@ -63,12 +96,16 @@ class Application {
   // Whether the control takes the mouse: the same, for any kind of control (labels and images
   // too), on the front-most form.
   bool TakesInput(const Control& control) const;
+  // The next control after `from` in tab order that can take the focus, wrapping round to the
+  // first; nullptr when no other control can.
+  static Control* NextTabStop(const Control& from);
   // Moves the focus (LostFocus on the old control with ActiveControl already moved, then
   // GotFocus). A request for an unavailable control leaves the focus where it is, raises nothing
   // and is reported to the observers; returns false then.
   bool SetFocus(Control& control);
 
-  // Queues keystrokes for the focused control, delivered once the current event has finished.
+  // Queues keystrokes for the focused control, delivered once the key or event under way has
+  // finished (after a typed key's KeyUp, before the next typed key).
   void SendKeys(std::string_view keys);
 
   // The slot of a form class's one default instance, kept for the application's lifetime.
@@ -92,8 +129,11 @@ class Application {
   };
 
   // For the runtime's own parts.
-  void NotifyControl(Control& control);
-  void NotifyForm(Form& form);
+  void NotifyControl(Control& control, Property property);
+  void NotifyForm(Form& form, Property property);
+  // A control was hidden or disabled: when it, or a control inside it, has the focus, the focus
+  // moves on in tab order (see Application::FocusMayBeLost in the source).
+  void FocusMayBeLost(Control& changed);
   void FormLoaded(Form& form);
   void FormShown(Form& form, bool modal);
   void FormHidden(Form& form);
@@ -101,9 +141,13 @@ class Application {
   int64_t NextWindowHandle() { return next_hwnd_ += 4; }
 
  private:
-  void MoveFocus(Form& form, Control& target);
+  void MoveFocus(Form& form, Control* target);
   void DeliverSentKeys();
   void Reactivate();
+  void Activate(Form& form);
+  void Lifecycle(Form& form, FormEvent event);
+  template <typename Call>
+  void Tell(const Call& call);
 
   ClipboardService& clipboard_;
   std::vector<std::shared_ptr<Form>> loaded_;

@@ -1,10 +1,12 @@
 #include "forms/control.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/application.h"
 #include "forms/form.h"
-#include "forms/utf8_text.h"
+#include "platform/ascii.h"
+#include "platform/utf8.h"
 
 namespace nvrandom::forms {
 
@@ -34,6 +36,18 @@ std::string_view KindName(ControlKind kind) {
   return "control";
 }
 
+std::vector<std::string> SplitRow(std::string_view row, char separator) {
+  std::vector<std::string> columns;
+  size_t start = 0;
+  for (size_t at = row.find(separator); at != std::string_view::npos;
+       at = row.find(separator, start)) {
+    columns.emplace_back(row.substr(start, at - start));
+    start = at + 1;
+  }
+  columns.emplace_back(row.substr(start));
+  return columns;
+}
+
 Control::Control(Form& form, const ControlDesign& design)
     : form_(form), design_(design), name_(design.name) {
   Reset();
@@ -48,14 +62,12 @@ void Control::Reset() {
   height_ = design_.height;
   tab_index_ = design_.tab_index;
   tag_.clear();
-  const bool window_colored = design_.kind == ControlKind::kTextBox ||
-                              design_.kind == ControlKind::kComboBox ||
-                              design_.kind == ControlKind::kDataList;
-  back_color_ = window_colored ? colors::kWindowBackground : colors::kButtonFace;
-  fore_color_ = 0x80000008;
-  font_name_ = "MS Sans Serif";
+  const bool has_text = IsTextKind(design_.kind);
+  back_color_ = has_text ? colors::kWindowBackground : colors::kButtonFace;
+  fore_color_ = colors::kWindowText;
+  font_name_ = std::string(form_.FontName());
   button_style_ = 0;
-  const bool has_text = window_colored;
+  back_style_ = 1;
   caption_ = has_text ? std::string() : std::string(design_.caption);
   text_ = has_text ? std::string(design_.caption) : std::string();
   sel_start_ = 0;
@@ -65,6 +77,7 @@ void Control::Reset() {
   locked_ = false;
   value_ = 0;
   rows_.clear();
+  column_headings_.assign(design_.column_headings.begin(), design_.column_headings.end());
   list_index_ = -1;
 }
 
@@ -73,8 +86,8 @@ std::string Control::FullName() const {
   return name_ + "(" + std::to_string(design_.index) + ")";
 }
 
-void Control::Notify() {
-  form_.app().NotifyControl(*this);
+void Control::Notify(Property property) {
+  form_.app().NotifyControl(*this, property);
 }
 
 void Control::Fire(const std::function<void()>& handler) {
@@ -82,103 +95,113 @@ void Control::Fire(const std::function<void()>& handler) {
 }
 
 void Control::SetVisible(bool visible) {
-  if (visible_ == visible) return;
-  visible_ = visible;
-  Notify();
+  if (Assign(visible_, visible, Property::kVisible)) form_.app().FocusMayBeLost(*this);
 }
 
 void Control::SetEnabled(bool enabled) {
-  if (enabled_ == enabled) return;
-  enabled_ = enabled;
-  Notify();
+  if (Assign(enabled_, enabled, Property::kEnabled)) form_.app().FocusMayBeLost(*this);
 }
 
 void Control::SetLeft(int32_t v) {
-  Move(v, top_);
+  Assign(left_, v, Property::kLeft);
 }
 void Control::SetTop(int32_t v) {
-  Move(left_, v);
+  Assign(top_, v, Property::kTop);
 }
-
 void Control::Move(int32_t left, int32_t top) {
-  if (left_ == left && top_ == top) return;
-  left_ = left;
-  top_ = top;
-  Notify();
+  SetLeft(left);
+  SetTop(top);
 }
-
 void Control::SetWidth(int32_t v) {
-  if (width_ == v) return;
-  width_ = v;
-  Notify();
+  Assign(width_, v, Property::kWidth);
 }
-
 void Control::SetHeight(int32_t v) {
-  if (height_ == v) return;
-  height_ = v;
-  Notify();
+  Assign(height_, v, Property::kHeight);
 }
-
+void Control::SetTabIndex(int index) {
+  Assign(tab_index_, index, Property::kTabIndex);
+}
+void Control::SetTag(std::string tag) {
+  Assign(tag_, std::move(tag), Property::kTag);
+}
 void Control::SetBackColor(uint32_t color) {
-  if (back_color_ == color) return;
-  back_color_ = color;
-  Notify();
+  Assign(back_color_, color, Property::kBackColor);
 }
-
 void Control::SetForeColor(uint32_t color) {
-  if (fore_color_ == color) return;
-  fore_color_ = color;
-  Notify();
+  Assign(fore_color_, color, Property::kForeColor);
 }
-
 void Control::SetFontName(std::string name) {
-  if (font_name_ == name) return;
-  font_name_ = std::move(name);
-  Notify();
+  Assign(font_name_, std::move(name), Property::kFontName);
 }
-
 void Control::SetButtonStyle(int style) {
-  if (button_style_ == style) return;
-  button_style_ = style;
-  Notify();
+  Assign(button_style_, style, Property::kButtonStyle);
 }
-
+void Control::SetBackStyle(int style) {
+  Assign(back_style_, style, Property::kBackStyle);
+}
 void Control::SetCaption(std::string caption) {
-  if (caption_ == caption) return;
-  caption_ = std::move(caption);
-  Notify();
+  Assign(caption_, std::move(caption), Property::kCaption);
+}
+void Control::SetMaxLength(int length) {
+  Assign(max_length_, length, Property::kMaxLength);
+}
+void Control::SetPasswordChar(std::string c) {
+  Assign(password_char_, std::move(c), Property::kPasswordChar);
+}
+void Control::SetLocked(bool locked) {
+  Assign(locked_, locked, Property::kLocked);
+}
+void Control::SetBoundColumn(int column) {
+  Assign(bound_column_, column, Property::kBoundColumn);
+}
+void Control::SetDisplayColumn(int column) {
+  Assign(display_column_, column, Property::kDisplayColumn);
+}
+void Control::SetColumnHeadings(std::vector<std::string> headings) {
+  Assign(column_headings_, std::move(headings), Property::kColumnHeadings);
 }
 
 void Control::SetText(std::string text) {
   if (text_ == text) return;
-  text_ = std::move(text);
-  sel_start_ = static_cast<int>(utf8::Length(text_));
-  sel_length_ = 0;
-  Notify();
+  const auto caret = static_cast<int>(utf8::Length(text));
+  ChangeText(std::move(text), caret);
+}
+
+void Control::ChangeText(std::string text, int caret) {
+  Assign(text_, std::move(text), Property::kText);
+  SetSelection(caret, 0);
+  if (design_.kind == ControlKind::kDataList) MatchRowToText();
   Fire(events.Change);
 }
 
+void Control::MatchRowToText() {
+  int match = -1;
+  for (int i = 0; i < ListCount() && match < 0; ++i) {
+    if (ascii::EqualsIgnoreCase(List(i), text_)) match = i;
+  }
+  Assign(list_index_, match, Property::kListIndex);
+}
+
+void Control::SetSelection(int start, int length) {
+  const int text_length = static_cast<int>(utf8::Length(text_));
+  start = std::clamp(start, 0, text_length);
+  length = std::clamp(length, 0, text_length - start);
+  if (sel_start_ == start && sel_length_ == length) return;
+  sel_start_ = start;
+  sel_length_ = length;
+  Notify(Property::kSelection);
+}
+
 void Control::SetSelStart(int start) {
-  const int length = static_cast<int>(utf8::Length(text_));
-  sel_start_ = std::clamp(start, 0, length);
-  sel_length_ = 0;
-  Notify();
+  SetSelection(start, 0);
 }
 
 void Control::SetSelLength(int length) {
-  const int text_length = static_cast<int>(utf8::Length(text_));
-  sel_length_ = std::clamp(length, 0, text_length - sel_start_);
-  Notify();
+  SetSelection(sel_start_, length);
 }
 
 std::string Control::SelText() const {
   return utf8::Mid(text_, static_cast<size_t>(sel_start_), static_cast<size_t>(sel_length_));
-}
-
-void Control::SetPasswordChar(std::string c) {
-  if (password_char_ == c) return;
-  password_char_ = std::move(c);
-  Notify();
 }
 
 void Control::ReplaceSelection(std::string_view inserted) {
@@ -199,48 +222,48 @@ void Control::ReplaceSelection(std::string_view inserted) {
   std::string updated = text_.substr(0, from) + piece + text_.substr(to);
   const int caret = sel_start_ + static_cast<int>(utf8::Length(piece));
   if (updated == text_) {
-    sel_start_ = caret;
-    sel_length_ = 0;
+    SetSelection(caret, 0);
     return;
   }
-  text_ = std::move(updated);
-  sel_start_ = caret;
-  sel_length_ = 0;
-  Notify();
-  Fire(events.Change);
+  ChangeText(std::move(updated), caret);
 }
 
 void Control::SetValue(int16_t value) {
   if (design_.kind == ControlKind::kOptionButton) value = value != 0 ? -1 : 0;
   if (value_ == value) return;
-  value_ = value;
   if (design_.kind == ControlKind::kOptionButton && value != 0) {
     for (const auto& other : form_.Controls()) {
       if (other.get() != this && other->kind() == ControlKind::kOptionButton &&
-          other->Container() == container_ && other->value_ != 0) {
-        other->value_ = 0;
-        other->Notify();
+          other->Container() == container_) {
+        other->Assign(other->value_, int16_t{0}, Property::kValue);
       }
     }
   }
-  Notify();
+  Assign(value_, value, Property::kValue);
   if (design_.kind == ControlKind::kCheckBox || value != 0) Fire(events.Click);
 }
 
 void Control::Clear() {
+  if (rows_.empty() && list_index_ < 0) return;
   rows_.clear();
   list_index_ = -1;
-  Notify();
+  Notify(Property::kList);
 }
 
 void Control::AddItem(std::string item) {
   rows_.push_back({std::move(item)});
-  Notify();
+  Notify(Property::kList);
 }
 
 void Control::AddRow(std::vector<std::string> row) {
   rows_.push_back(std::move(row));
-  Notify();
+  Notify(Property::kList);
+}
+
+void Control::SetRows(std::vector<std::vector<std::string>> rows) {
+  rows_ = std::move(rows);
+  list_index_ = -1;
+  Notify(Property::kList);
 }
 
 std::string Control::List(int index) const {
@@ -258,10 +281,19 @@ const std::vector<std::string>& Control::Row(int index) const {
 
 void Control::SetListIndex(int index) {
   if (index < -1 || index >= ListCount()) index = -1;
-  list_index_ = index;
-  Notify();
-  if (index >= 0) SetText(List(index));
+  Assign(list_index_, index, Property::kListIndex);
+  // A plain combo box's choice fires Click alone; a data list's text box fires Change too.
+  if (ShowRowText(index) && design_.kind == ControlKind::kDataList) Fire(events.Change);
   Fire(events.Click);
+}
+
+bool Control::ShowRowText(int index) {
+  if (index < 0 || text_ == List(index)) return false;
+  std::string shown = List(index);
+  const auto caret = static_cast<int>(utf8::Length(shown));
+  Assign(text_, std::move(shown), Property::kText);
+  SetSelection(caret, 0);
+  return true;
 }
 
 std::string Control::BoundText() const {
@@ -275,9 +307,8 @@ bool Control::SelectBound(std::string_view code) {
     const auto& row = rows_[static_cast<size_t>(i)];
     const auto column = static_cast<size_t>(bound_column_);
     if (column < row.size() && row[column] == code) {
-      list_index_ = i;
-      Notify();
-      SetText(List(i));
+      Assign(list_index_, i, Property::kListIndex);
+      if (ShowRowText(i)) Fire(events.Change);
       return true;
     }
   }

@@ -21,6 +21,7 @@ Form::Form(Application& app, const FormDesign& design, std::span<const ControlDe
 Form::~Form() = default;
 
 void Form::ResetToDesign() {
+  font_name_ = std::string(design_.font_name);
   for (auto& control : controls_) control->Reset();
   caption_ = std::string(design_.caption);
   width_ = design_.width;
@@ -37,6 +38,13 @@ Control* Form::Find(std::string_view name, int index) const {
     if (control->Index() == index && control->Name() == name) return control.get();
   }
   return nullptr;
+}
+
+ControlEvents& Form::On(std::string_view name, int index) {
+  if (Control* control = Find(name, index)) return control->events;
+  std::string full(name);
+  if (index >= 0) full += "(" + std::to_string(index) + ")";
+  throw BindingError(name_ + ": a handler is bound to " + full + ", which the form does not have");
 }
 
 Control& Form::Ctl(std::string_view name, int index) {
@@ -100,35 +108,33 @@ bool Form::Unload(int16_t mode) {
   return true;
 }
 
-void Form::Notify() {
-  app_.NotifyForm(*this);
+void Form::Notify(Property property) {
+  app_.NotifyForm(*this, property);
 }
 
 void Form::SetCaption(std::string caption) {
-  if (caption_ == caption) return;
-  caption_ = std::move(caption);
-  Notify();
+  Assign(caption_, std::move(caption), Property::kCaption);
 }
 
 void Form::Move(int32_t left, int32_t top) {
-  left_ = left;
-  top_ = top;
-  Notify();
+  Assign(left_, left, Property::kLeft);
+  Assign(top_, top, Property::kTop);
 }
 
 void Form::SetWidth(int32_t width) {
-  width_ = width;
-  Notify();
+  Assign(width_, width, Property::kWidth);
 }
 
 void Form::SetHeight(int32_t height) {
-  height_ = height;
-  Notify();
+  Assign(height_, height, Property::kHeight);
 }
 
 void Form::SetBackColor(uint32_t color) {
-  back_color_ = color;
-  Notify();
+  Assign(back_color_, color, Property::kBackColor);
+}
+
+void Form::SetFontName(std::string name) {
+  Assign(font_name_, std::move(name), Property::kFontName);
 }
 
 }  // namespace nvrandom::forms

@@ -3,8 +3,10 @@
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "forms/control.h"
@@ -27,6 +29,14 @@ struct FormDesign {
   int32_t width = 0;   // twips
   int32_t height = 0;  // twips
   bool key_preview = false;
+  std::string_view font_name = "MS Sans Serif";  // the controls' font unless they set their own
+};
+
+// A handler bound to a control the form does not have: a fault of the dialog's code, raised
+// while the form is being constructed.
+class BindingError : public std::logic_error {
+ public:
+  using std::logic_error::logic_error;
 };
 
 // A form: its controls, made from the form's control table, and its event procedures. Dialogs
@@ -53,6 +63,9 @@ class Form : public std::enable_shared_from_this<Form> {
   Control& Ctl(std::string_view name, int index = -1);
   // The same lookup without loading; nullptr when there is no such control.
   Control* Find(std::string_view name, int index = -1) const;
+  // The events of a control, for binding handlers in the constructor: throws BindingError
+  // naming the form and the control when the form has no such control.
+  ControlEvents& On(std::string_view name, int index = -1);
   const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
 
   bool IsLoaded() const { return loaded_; }
@@ -78,6 +91,12 @@ class Form : public std::enable_shared_from_this<Form> {
   bool KeyPreview() const { return key_preview_; }
   uint32_t BackColor() const { return back_color_; }
   void SetBackColor(uint32_t color);
+  const std::string& FontName() const { return font_name_; }
+  void SetFontName(std::string name);
+  // By name, ignoring case: BackColor, FontName, Caption, Left, Top, Width, Height (RuntimeError
+  // 438 for any other name, 13 for a value of the wrong type).
+  PropertyValue GetProperty(std::string_view name) const;
+  void SetProperty(std::string_view name, const PropertyValue& value);
 
   // The control that has (or, during LostFocus, is receiving) the focus.
   Control* ActiveControl() const { return active_control_; }
@@ -99,10 +118,20 @@ class Form : public std::enable_shared_from_this<Form> {
     (void)key_code;
     (void)shift;
   }
+  virtual void Form_KeyUp(int16_t& key_code, int16_t& shift) {
+    (void)key_code;
+    (void)shift;
+  }
 
  private:
   friend class Application;
-  void Notify();
+  template <typename T, typename V>
+  void Assign(T& field, V&& value, Property property) {
+    if (field == value) return;
+    field = std::forward<V>(value);
+    Notify(property);
+  }
+  void Notify(Property property);
   void ResetToDesign();
 
   Application& app_;
@@ -118,6 +147,7 @@ class Form : public std::enable_shared_from_this<Form> {
   int32_t left_ = 0, top_ = 0, width_ = 0, height_ = 0;
   bool key_preview_ = false;
   uint32_t back_color_ = 0;
+  std::string font_name_;
   Control* active_control_ = nullptr;
   int64_t hwnd_ = 0;
 };

@@ -1,13 +1,13 @@
 #include "forms/keystroke.h"
 
-#include <cctype>
+#include <algorithm>
 #include <string>
 
 #include "forms/application.h"
 #include "forms/control.h"
 #include "forms/form.h"
-#include "forms/utf8_text.h"
 #include "platform/clipboard.h"
+#include "platform/utf8.h"
 
 namespace nvrandom::forms {
 
@@ -15,17 +15,16 @@ namespace {
 
 constexpr int16_t kProcessKey = 229;  // a character no key of the layout types
 
-bool IsTextKind(ControlKind kind) {
-  return kind == ControlKind::kTextBox || kind == ControlKind::kComboBox ||
-         kind == ControlKind::kDataList;
-}
-
 void Backspace(Control& c) {
   if (c.SelLength() == 0) {
     if (c.SelStart() == 0) return;
-    c.SetSelStart(c.SelStart() - 1);
-    c.SetSelLength(1);
+    c.SetSelection(c.SelStart() - 1, 1);
   }
+  c.ReplaceSelection("");
+}
+
+void DeleteForward(Control& c) {
+  if (c.SelLength() == 0) c.SetSelection(c.SelStart(), 1);
   c.ReplaceSelection("");
 }
 
@@ -34,18 +33,15 @@ void PasteClipboard(Control& c) {
   c.ReplaceSelection(c.form().app().clipboard().Text());
 }
 
+// A masked box gives nothing away: copy and cut do nothing there.
+void CopySelection(Control& c, bool cut) {
+  if (!c.PasswordChar().empty()) return;
+  c.form().app().clipboard().SetText(c.SelText());
+  if (cut && !c.Locked()) c.ReplaceSelection("");
+}
+
 void TabToNext(Control& from) {
-  Control* next = nullptr;
-  Control* first = nullptr;
-  for (const auto& c : from.form().Controls()) {
-    if (!c->TabStop() || c.get() == &from || !Application::Available(*c)) continue;
-    if (first == nullptr || c->TabIndex() < first->TabIndex()) first = c.get();
-    if (c->TabIndex() > from.TabIndex() && (next == nullptr || c->TabIndex() < next->TabIndex())) {
-      next = c.get();
-    }
-  }
-  if (next == nullptr) next = first;
-  if (next != nullptr) from.form().app().SetFocus(*next);
+  if (Control* next = Application::NextTabStop(from)) from.form().app().SetFocus(*next);
 }
 
 void DefaultAction(Control& c, int16_t key) {
@@ -53,23 +49,22 @@ void DefaultAction(Control& c, int16_t key) {
     TabToNext(c);
     return;
   }
-  switch (c.kind()) {
-    case ControlKind::kTextBox:
-    case ControlKind::kComboBox:
-    case ControlKind::kDataList:
-      if (c.Locked()) return;
-      if (key == keys::kBackspace) {
-        Backspace(c);
-      } else if (key == keys::kPaste) {
-        PasteClipboard(c);
-      } else if (key == keys::kCopy || key == keys::kCut) {
-        c.form().app().clipboard().SetText(c.SelText());
-        if (key == keys::kCut) c.ReplaceSelection("");
-      } else if (key >= 32 || key < 0) {
-        const auto cp = static_cast<char32_t>(static_cast<uint16_t>(key));
-        c.ReplaceSelection(utf8::EncodeCodePoint(cp));
-      }
+  if (IsTextKind(c.kind())) {
+    if (key == keys::kCopy || key == keys::kCut) {
+      CopySelection(c, key == keys::kCut);
+    } else if (c.Locked()) {
       return;
+    } else if (key == keys::kBackspace) {
+      Backspace(c);
+    } else if (key == keys::kPaste) {
+      PasteClipboard(c);
+    } else if (key >= 32 || key < 0) {
+      const auto cp = static_cast<char32_t>(static_cast<uint16_t>(key));
+      c.ReplaceSelection(utf8::EncodeCodePoint(cp));
+    }
+    return;
+  }
+  switch (c.kind()) {
     case ControlKind::kCheckBox:
       if (key == ' ') c.SetValue(c.Value() == 1 ? 0 : 1);
       return;
@@ -78,6 +73,64 @@ void DefaultAction(Control& c, int16_t key) {
       return;
     case ControlKind::kCommandButton:
       if ((key == ' ' || key == keys::kEnter) && c.events.Click) c.events.Click();
+      return;
+    default:
+      return;
+  }
+}
+
+// Moves the caret of a text, or with Shift extends the selection from SelStart.
+void MoveCaret(Control& c, int to, bool extend) {
+  if (extend) {
+    const int anchor = c.SelStart();
+    if (to >= anchor) {
+      c.SetSelection(anchor, to - anchor);
+    } else {
+      c.SetSelection(to, anchor + c.SelLength() - to);
+    }
+  } else {
+    c.SetSelection(to, 0);
+  }
+}
+
+// What a key that types no character does to the control that has the focus.
+void EditingAction(Control& c, int16_t key_code, int16_t shift) {
+  if (!IsTextKind(c.kind())) return;
+  const bool extend = (shift & keys::kShiftMask) != 0;
+  const int end = static_cast<int>(utf8::Length(c.Text()));
+  const int caret_end = c.SelStart() + c.SelLength();
+  const bool list = c.kind() != ControlKind::kTextBox;
+  switch (key_code) {
+    case keys::kKeyDelete:
+      if (!c.Locked()) DeleteForward(c);
+      return;
+    case keys::kKeyUp:
+    case keys::kKeyDown:
+      if (list) {
+        // The arrows walk a list's rows, as a choice of the row.
+        const int step = key_code == keys::kKeyUp ? -1 : 1;
+        const int row = c.ListIndex() + step;
+        if (row >= 0 && row < c.ListCount()) c.SetListIndex(row);
+        return;
+      }
+      // A one-line text box takes Up as Left and Down as Right.
+      MoveCaret(c, key_code == keys::kKeyUp ? std::max(0, c.SelStart() - 1) : caret_end + 1,
+                extend);
+      return;
+    case keys::kKeyLeft:
+      MoveCaret(c, extend || c.SelLength() == 0 ? c.SelStart() - 1 : c.SelStart(), extend);
+      return;
+    case keys::kKeyRight:
+      MoveCaret(c, extend || c.SelLength() == 0 ? caret_end + 1 : caret_end, extend);
+      return;
+    case keys::kKeyHome:
+      MoveCaret(c, 0, extend);
+      return;
+    case keys::kKeyEnd:
+      MoveCaret(c, end, extend);
+      return;
+    case keys::kKeyInsert:
+      if (shift == keys::kShiftMask) PasteClipboard(c);
       return;
     default:
       return;
@@ -113,6 +166,33 @@ bool PressCharacter(Control& control, int16_t key_ascii) {
   }
   if (form.IsLoaded()) DefaultAction(control, key_ascii);
   return true;
+}
+
+// The key comes up over whichever control has the focus by then (a handler may have moved it).
+void ReleaseKey(Control& pressed, int16_t key_code, int16_t shift) {
+  Control* target = pressed.form().app().Focused();
+  if (target == nullptr) return;
+  Form& form = target->form();
+  if (form.KeyPreview()) {
+    form.Form_KeyUp(key_code, shift);
+    if (key_code == 0) return;
+  }
+  if (target->events.KeyUp) target->events.KeyUp(key_code, shift);
+}
+
+// The control character a Control+letter shortcut types, or 0.
+int16_t ControlCharacter(int16_t key_code, int16_t shift) {
+  if (shift != keys::kCtrlMask) return 0;
+  switch (key_code) {
+    case keys::kKeyC:
+      return keys::kCopy;
+    case keys::kKeyV:
+      return keys::kPaste;
+    case keys::kKeyX:
+      return keys::kCut;
+    default:
+      return 0;
+  }
 }
 
 }  // namespace
@@ -169,39 +249,39 @@ std::vector<char32_t> DecodeKeys(std::string_view text) {
         continue;
       }
     }
-    // One UTF-8 character.
     const size_t size = utf8::Offset(text.substr(i), 1);
-    const std::string_view one = text.substr(i, size);
-    char32_t cp = static_cast<unsigned char>(one[0]);
-    if (size > 1) {
-      cp &= 0xFFu >> (size + 1);
-      for (size_t k = 1; k < size; ++k)
-        cp = (cp << 6) | (static_cast<unsigned char>(one[k]) & 0x3F);
-    }
-    out.push_back(cp);
+    for (const char32_t cp : utf8::Decode(text.substr(i, size))) out.push_back(cp);
     i += size;
   }
   return out;
 }
 
-bool KeyDownOnly(Control& control, int16_t key_code, int16_t shift) {
-  if (!PressKeyDown(control, key_code, shift)) return false;
-  const bool shift_insert = key_code == keys::kKeyInsert && shift == keys::kShiftMask;
-  if (shift_insert && IsTextKind(control.kind())) PasteClipboard(control);
-  // Control+V types the paste character, which goes through KeyPress like any other key.
-  if (key_code == keys::kKeyV && shift == keys::kCtrlMask) {
-    return PressCharacter(control, keys::kPaste);
+bool PhysicalKey(Control& control, int16_t key_code, int16_t shift) {
+  const int16_t down_code = key_code;
+  const int16_t down_shift = shift;
+  bool kept = PressKeyDown(control, key_code, shift);
+  if (kept && control.form().IsLoaded()) {
+    if (const int16_t character = ControlCharacter(key_code, shift); character != 0) {
+      kept = PressCharacter(control, character);
+    } else {
+      EditingAction(control, key_code, shift);
+    }
   }
-  return true;
+  ReleaseKey(control, down_code, down_shift);
+  return kept;
 }
 
 bool Keystroke(Control& control, char32_t character) {
   const KeyCodeAndShift key = KeyFor(character);
   int16_t key_code = key.key_code;
   int16_t shift = key.shift;
-  if (!PressKeyDown(control, key_code, shift)) return false;
-  return PressCharacter(control,
-                        character > 0x7FFF ? int16_t{'?'} : static_cast<int16_t>(character));
+  bool kept = PressKeyDown(control, key_code, shift);
+  if (kept) {
+    kept = PressCharacter(control,
+                          character > 0x7FFF ? int16_t{'?'} : static_cast<int16_t>(character));
+  }
+  ReleaseKey(control, key.key_code, key.shift);
+  return kept;
 }
 
 }  // namespace nvrandom::forms

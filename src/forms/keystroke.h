@@ -8,7 +8,7 @@ namespace nvrandom::forms {
 
 class Control;
 
-// Key codes as KeyDown sees them.
+// Key codes as KeyDown sees them, and the control characters KeyPress sees.
 namespace keys {
 inline constexpr int16_t kBackspace = 8;
 inline constexpr int16_t kTab = 9;
@@ -16,8 +16,17 @@ inline constexpr int16_t kEnter = 13;
 inline constexpr int16_t kCopy = 3;    // Control+C as a character
 inline constexpr int16_t kPaste = 22;  // Control+V as a character
 inline constexpr int16_t kCut = 24;    // Control+X as a character
+inline constexpr int16_t kKeyEnd = 35;
+inline constexpr int16_t kKeyHome = 36;
+inline constexpr int16_t kKeyLeft = 37;
+inline constexpr int16_t kKeyUp = 38;
+inline constexpr int16_t kKeyRight = 39;
+inline constexpr int16_t kKeyDown = 40;
 inline constexpr int16_t kKeyInsert = 45;
+inline constexpr int16_t kKeyDelete = 46;
+inline constexpr int16_t kKeyC = 67;
 inline constexpr int16_t kKeyV = 86;
+inline constexpr int16_t kKeyX = 88;
 inline constexpr int16_t kShiftMask = 1;
 inline constexpr int16_t kCtrlMask = 2;
 }  // namespace keys
@@ -34,15 +43,17 @@ KeyCodeAndShift KeyFor(char32_t character);
 // "{BS}"/"{BACKSPACE}", and "{x}" for a character that is otherwise special.
 std::vector<char32_t> DecodeKeys(std::string_view keys);
 
-// One key press on `control`: KeyDown (the form's first when it previews keys), KeyPress (idem),
-// then the control's own handling of the key: insert at the selection within MaxLength, Backspace,
-// paste, Tab to the next control, toggle a check box, press a button. A handler that sets the
-// code to 0 discards the key. Returns false when the key was discarded.
+// One physical key that types `character` on `control`: KeyDown, KeyPress (the form's first of
+// each when it previews keys), the control's own handling of the character (insert at the
+// selection within MaxLength, Backspace, paste, copy, cut, Tab to the next control, toggle a
+// check box, press a button), then KeyUp on the control that has the focus by then. A handler
+// that sets the code to 0 discards the key (KeyUp still fires). False when it was discarded.
 bool Keystroke(Control& control, char32_t character);
 
-// A KeyDown alone (a key that types no character, or a shortcut): returns false when discarded.
-// Shift+Insert pastes into text boxes when not discarded; Control+V goes on as the key press of
-// the paste character (22), which KeyPress may discard in turn.
-bool KeyDownOnly(Control& control, int16_t key_code, int16_t shift);
+// One physical key that types no character of its own: KeyDown, then unless discarded the key's
+// editing action (Delete, arrows, Home, End, Shift+Insert paste; Control+C, Control+V and
+// Control+X go on as the KeyPress of their control character), then KeyUp. False when
+// discarded.
+bool PhysicalKey(Control& control, int16_t key_code, int16_t shift);
 
 }  // namespace nvrandom::forms

@@ -7,8 +7,8 @@
 #include "forms/control.h"
 #include "forms/form.h"
 #include "forms/keystroke.h"
-#include "forms/utf8_text.h"
 #include "platform/clipboard.h"
+#include "platform/utf8.h"
 
 namespace nvrandom::forms::user {
 
@@ -40,11 +40,13 @@ bool Focus(Control& control) {
 }
 
 bool Type(Control& control, std::string_view text) {
-  const Input input(control.form());
-  if (!FocusWithin(control)) return false;
-  // As at a keyboard, each key goes to the control that has the focus when it is pressed: a
-  // field that moves the focus on when full passes the rest of the typing to the next field.
   Application& app = control.form().app();
+  {
+    const Input input(control.form());
+    if (!FocusWithin(control)) return false;
+  }
+  // As at a keyboard, each key is input of its own: it and the keys its handlers send are done
+  // before the next, which goes to the control that has the focus by then.
   for (const char32_t c : DecodeKeys(text)) {
     Control* target = app.Focused();
     if (target == nullptr) break;
@@ -64,14 +66,37 @@ bool Key(Control& control, int16_t key_ascii) {
 bool KeyDown(Control& control, int16_t key_code, int16_t shift) {
   const Input input(control.form());
   if (!FocusWithin(control)) return false;
-  KeyDownOnly(control, key_code, shift);
+  PhysicalKey(control, key_code, shift);
   return true;
 }
 
-bool MouseDown(Control& control, int16_t button) {
+bool Select(Control& control, int start, int length) {
+  const Input input(control.form());
+  if (!FocusWithin(control)) return false;
+  control.SetSelection(start, length);
+  return true;
+}
+
+bool MouseDown(Control& control, int16_t button, int16_t shift, float x, float y) {
   const Input input(control.form());
   if (!control.form().app().TakesInput(control)) return false;
-  if (control.events.MouseDown) control.events.MouseDown(button, 0, 0.0F, 0.0F);
+  if (control.events.MouseDown) control.events.MouseDown(button, shift, x, y);
+  return true;
+}
+
+bool MouseUp(Control& control, int16_t button, int16_t shift, float x, float y) {
+  const Input input(control.form());
+  if (!control.form().app().TakesInput(control)) return false;
+  if (control.events.MouseUp) control.events.MouseUp(button, shift, x, y);
+  return true;
+}
+
+bool DoubleClick(Control& control) {
+  const Input input(control.form());
+  if (!Click(control)) return false;
+  if (control.form().app().TakesInput(control) && control.events.DblClick) {
+    control.events.DblClick();
+  }
   return true;
 }
 
@@ -84,11 +109,25 @@ bool Paste(Control& control, std::string_view text) {
   return true;
 }
 
+bool MenuPaste(Control& control, std::string_view text) {
+  const Input input(control.form());
+  Application& app = control.form().app();
+  if (!FocusWithin(control)) return false;
+  app.clipboard().SetText(std::string(text));
+  constexpr int16_t kRightButton = 2;
+  if (control.events.MouseDown) control.events.MouseDown(kRightButton, 0, 0.0F, 0.0F);
+  if (control.events.MouseUp) control.events.MouseUp(kRightButton, 0, 0.0F, 0.0F);
+  if (!Application::Available(control) || !IsTextKind(control.kind()) || control.Locked()) {
+    return true;  // the menu's Paste is greyed out
+  }
+  control.ReplaceSelection(app.clipboard().Text());
+  return true;
+}
+
 bool ClearText(Control& control) {
   const Input input(control.form());
   if (!FocusWithin(control)) return false;
-  control.SetSelStart(0);
-  control.SetSelLength(static_cast<int>(utf8::Length(control.Text())));
+  control.SetSelection(0, static_cast<int>(utf8::Length(control.Text())));
   control.ReplaceSelection("");
   return true;
 }

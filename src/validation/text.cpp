@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "forms/utf8_text.h"
+#include "platform/utf8.h"
 
 namespace nvrandom::validation {
 
@@ -38,7 +38,7 @@ std::string PadLeft(std::string_view text, int length) {
   if (length <= 0) return {};
   const auto want = static_cast<size_t>(length);
   const size_t have = CharacterCount(text);
-  if (have >= want) return std::string(text.substr(forms::utf8::Offset(text, have - want)));
+  if (have >= want) return std::string(text.substr(utf8::Offset(text, have - want)));
   std::string out(want - have, ' ');
   out += text;
   return out;
@@ -63,16 +63,16 @@ bool IsAlpha(std::string_view text) {
 }
 
 size_t CharacterCount(std::string_view text) {
-  return forms::utf8::Length(text);
+  return utf8::Length(text);
 }
 
 std::string_view LeftCharacters(std::string_view text, size_t count) {
-  return text.substr(0, forms::utf8::Offset(text, count));
+  return text.substr(0, utf8::Offset(text, count));
 }
 
 std::string_view MidCharacters(std::string_view text, size_t start, size_t count) {
-  const std::string_view rest = text.substr(forms::utf8::Offset(text, start));
-  return rest.substr(0, forms::utf8::Offset(rest, count));
+  const std::string_view rest = text.substr(utf8::Offset(text, start));
+  return rest.substr(0, utf8::Offset(rest, count));
 }
 
 bool ConsistsOf(std::string_view text, char c) {

@@ -6,11 +6,11 @@
 
 #include "component/context.h"
 #include "forms/form.h"
-#include "forms/utf8_text.h"
 #include "installation_tree.h"
 #include "platform/ascii.h"
 #include "platform/path.h"
 #include "platform/runtime_error.h"
+#include "platform/utf8.h"
 #include "scenario_runner.h"
 #include "scenario_values.h"
 

@@ -7,6 +7,7 @@
 #include "component/context.h"
 #include "component/trace.h"
 #include "forms/application.h"
+#include "forms/control.h"
 
 namespace nvrandom {
 
@@ -55,17 +56,6 @@ constexpr std::array<const char*, 17> kBankRows = {
     "899;Alberta Credit Unions",
 };
 
-std::vector<std::string> SplitColumns(const std::string& row) {
-  std::vector<std::string> columns;
-  size_t start = 0;
-  for (size_t at = row.find(';'); at != std::string::npos; at = row.find(';', start)) {
-    columns.push_back(row.substr(start, at - start));
-    start = at + 1;
-  }
-  columns.push_back(row.substr(start));
-  return columns;
-}
-
 }  // namespace
 
 frmCheque& frmCheque::Instance(Context& ctx) {
@@ -85,7 +75,9 @@ void frmCheque::Form_Load() {
 void frmCheque::LoadBankList() {
   TraceEntry(ctx_, "frmCheque - LoadBankList");
   forms::Control& list = Ctl("cmbBankName");
-  for (const char* row : kBankRows) list.AddRow(SplitColumns(row));
+  std::vector<std::vector<std::string>> rows;
+  for (const char* row : kBankRows) rows.push_back(forms::SplitRow(row));
+  list.SetRows(std::move(rows));
 }
 
 }  // namespace nvrandom

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "forms/user_input.h"
-#include "forms/utf8_text.h"
 #include "platform/runtime_error.h"
+#include "platform/utf8.h"
 #include "test_form.h"
 
 namespace nvrandom::forms_test {
@@ -155,8 +155,8 @@ TEST(ControlEvents, TextPositionsCountCharacters) {
   forms::user::Type(code, "X");
   EXPECT_EQ(code.Text(), "h\xC3\xA9Xllo");
   // A stray byte counts as one character and is never split off a neighbour.
-  EXPECT_EQ(forms::utf8::Length("a\xFF\xC3\xA9"), 3U);
-  EXPECT_EQ(forms::utf8::Mid("a\xFF\xC3\xA9", 2, 1), "\xC3\xA9");
+  EXPECT_EQ(utf8::Length("a\xFF\xC3\xA9"), 3U);
+  EXPECT_EQ(utf8::Mid("a\xFF\xC3\xA9", 2, 1), "\xC3\xA9");
 }
 
 }  // namespace

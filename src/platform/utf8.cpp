@@ -1,6 +1,6 @@
-#include "forms/utf8_text.h"
+#include "platform/utf8.h"
 
-namespace nvrandom::forms::utf8 {
+namespace nvrandom::utf8 {
 
 namespace {
 // Length in bytes of the character starting at `p`, 1 for a byte that is not a valid start or
@@ -61,4 +61,21 @@ std::string EncodeCodePoint(char32_t cp) {
   return out;
 }
 
-}  // namespace nvrandom::forms::utf8
+std::vector<char32_t> Decode(std::string_view text) {
+  std::vector<char32_t> out;
+  for (size_t p = 0; p < text.size();) {
+    const size_t size = CharSize(text, p);
+    char32_t cp = static_cast<unsigned char>(text[p]);
+    if (size > 1) {
+      cp &= 0xFFu >> (size + 1);
+      for (size_t k = 1; k < size; ++k) {
+        cp = (cp << 6) | (static_cast<unsigned char>(text[p + k]) & 0x3F);
+      }
+    }
+    out.push_back(cp);
+    p += size;
+  }
+  return out;
+}
+
+}  // namespace nvrandom::utf8
