@@ -31,40 +31,38 @@ frmRandomInfo::frmRandomInfo(Context& ctx, RandomInfoEvents* events)
 }
 
 void frmRandomInfo::BindEvents() {
-  Find("cmd_cancel")->events.Click = [this] { cmd_cancel_Click(); };
-  Find("cmd_help")->events.Click = [this] { cmd_help_Click(); };
-  Find("cmdCheque")->events.Click = [this] { cmdCheque_Click(); };
-  Find("ctHyperLink1")->events.Click = [this] { ctHyperLink1_Click(); };
-  Find("cmdFXBankingInfo")->events.Click = [this] { cmdFXBankingInfo_Click(); };
+  On("cmd_cancel").Click = [this] { cmd_cancel_Click(); };
+  On("cmd_help").Click = [this] { cmd_help_Click(); };
+  On("cmdCheque").Click = [this] { cmdCheque_Click(); };
+  On("ctHyperLink1").Click = [this] { ctHyperLink1_Click(); };
+  On("cmdFXBankingInfo").Click = [this] { cmdFXBankingInfo_Click(); };
   for (int i = 0; Find("imgHelpCSFTInfo", i) != nullptr; ++i) {
-    Find("imgHelpCSFTInfo", i)->events.Click = [this, i] { imgHelpCSFTInfo_Click(i); };
+    On("imgHelpCSFTInfo", i).Click = [this, i] { imgHelpCSFTInfo_Click(i); };
   }
 
-  forms::ControlEvents& individual = Find("optCIndividual")->events;
+  forms::ControlEvents& individual = On("optCIndividual");
   individual.Click = [this] { optCIndividual_Click(); };
   individual.GotFocus = [this] { optCIndividual_GotFocus(); };
-  forms::ControlEvents& business = Find("optCBusiness")->events;
+  forms::ControlEvents& business = On("optCBusiness");
   business.Click = [this] { optCBusiness_Click(); };
   business.GotFocus = [this] { optCBusiness_GotFocus(); };
-  forms::ControlEvents& pay_business = Find("optBusiness")->events;
+  forms::ControlEvents& pay_business = On("optBusiness");
   pay_business.Click = [this] { optBusiness_Click(); };
   pay_business.KeyPress = [this](int16_t& key) { optBusiness_KeyPress(key); };
-  forms::ControlEvents& employee = Find("optEmployee")->events;
+  forms::ControlEvents& employee = On("optEmployee");
   employee.Click = [this] { optEmployee_Click(); };
   employee.KeyPress = [this](int16_t& key) { optEmployee_KeyPress(key); };
-  forms::ControlEvents& not_available = Find("chkBNNotAvailable")->events;
+  forms::ControlEvents& not_available = On("chkBNNotAvailable");
   not_available.Click = [this] { chkBNNotAvailable_Click(); };
   not_available.GotFocus = [this] { chkBNNotAvailable_GotFocus(); };
   not_available.KeyPress = [this](int16_t& key) { chkBNNotAvailable_KeyPress(key); };
-  Find("chkDiscountsApply")->events.KeyPress = [this](int16_t& key) {
-    chkDiscountsApply_KeyPress(key);
-  };
+  On("chkDiscountsApply").KeyPress = [this](int16_t& key) { chkDiscountsApply_KeyPress(key); };
 
-  forms::ControlEvents& country = Find("ran_payee_country")->events;
+  forms::ControlEvents& country = On("ran_payee_country");
   country.GotFocus = [this] { ran_payee_country_GotFocus(); };
   country.KeyPress = [this](int16_t& key) { ran_payee_country_KeyPress(key); };
   country.LostFocus = [this] { ran_payee_country_LostFocus(); };
-  forms::ControlEvents& currency = Find("cmbCurrencyCode")->events;
+  forms::ControlEvents& currency = On("cmbCurrencyCode");
   currency.KeyPress = [this](int16_t& key) { cmbCurrencyCode_KeyPress(key); };
   currency.LostFocus = [this] { cmbCurrencyCode_LostFocus(); };
 }

@@ -53,6 +53,8 @@ class frmRandomInfo final : public forms::Form {
     std::string account, bank_id, transit, routing_number, bank_account_number;
   };
   const BankTexts& BankTextsAtSetup() const { return bank_texts_at_setup_; }
+  // The address block's height as designed, read when the dialog loaded.
+  int32_t Frame3HeightAtLoad() const { return frame3_height_at_load_; }
 
   // Host-facing procedures.
   void cmd_cancel_Click();

@@ -42,7 +42,6 @@ void frmRandomInfo::LoadCountries() {
   Trace("LoadCountries");
   const ComponentStore& s = ctx_.store;
   forms::Control& list = Ctl("ran_payee_country");
-  list.Clear();
   // Rows are name, code and telephone code; the code is what the box shows and the record keeps.
   list.SetBoundColumn(1);
   list.SetDisplayColumn(1);
@@ -67,9 +66,12 @@ void frmRandomInfo::LoadCountries() {
   if (!HasCode(offered, "CA")) rows.push_back({"Canada", "CA", "1"});
   if (!HasCode(offered, "US")) rows.push_back({"United States", "US", "1"});
   for (CountryRecord& record : offered) rows.push_back(std::move(record));
+  std::vector<std::vector<std::string>> filled;
+  filled.reserve(rows.size());
   for (CountryRecord& row : rows) {
-    list.AddRow({std::move(row.name), std::move(row.code), std::move(row.phone)});
+    filled.push_back({std::move(row.name), std::move(row.code), std::move(row.phone)});
   }
+  list.SetRows(std::move(filled));
 }
 
 }  // namespace nvrandom

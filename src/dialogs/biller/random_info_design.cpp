@@ -50,6 +50,10 @@ constexpr int32_t LabelTop(int line) {
 // Under Frame1: the required-fields note and the buttons.
 constexpr int32_t kUnderFrame1 = 120 + kFrame1Height + 40;
 
+// The data lists' columns; the code column is bound (what the record keeps) and shown in the box.
+constexpr std::array<std::string_view, 3> kCountryColumns = {"Country", "Code", "Phone"};
+constexpr std::array<std::string_view, 2> kCurrencyColumns = {"Currency", "Code"};
+
 constexpr ControlDesign AddressLabel(std::string_view name, std::string_view caption, int line) {
   return {.kind = K::kLabel,
           .name = name,
@@ -178,7 +182,8 @@ constexpr std::array kControls = std::to_array<ControlDesign>({
      .top = FieldTop(2),
      .width = 2800,
      .height = kFieldHeight,
-     .tab_index = 5},
+     .tab_index = 5,
+     .column_headings = kCountryColumns},
     {.kind = K::kLabel,
      .name = "lblCurrency",
      .container = "Frame3",
@@ -194,7 +199,8 @@ constexpr std::array kControls = std::to_array<ControlDesign>({
      .top = FieldTop(2),
      .width = 2960,
      .height = kFieldHeight,
-     .tab_index = 6},
+     .tab_index = 6,
+     .column_headings = kCurrencyColumns},
     AddressLabel("lblPhoneNo", "Phone:", 3),
     {.kind = K::kLabel,
      .name = "Label19",

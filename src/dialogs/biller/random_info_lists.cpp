@@ -86,9 +86,11 @@ int16_t ListKey(int16_t key) {
 void frmRandomInfo::LoadProvinces() {
   Trace("LoadProvinces");
   forms::Control& list = Ctl("ran_payee_prov");
-  list.Clear();
   if (USMode()) {
-    for (const char* state : kUSStates) list.AddItem(state);
+    std::vector<std::vector<std::string>> rows;
+    rows.reserve(kUSStates.size());
+    for (const char* state : kUSStates) rows.push_back({state});
+    list.SetRows(std::move(rows));
     return;
   }
   // Units of three characters: a province code and one of its postal letters. A province with
@@ -103,7 +105,10 @@ void frmRandomInfo::LoadProvinces() {
     rest.remove_prefix(validation::LeftCharacters(rest, 3).size());
   }
   std::sort(codes.begin(), codes.end());
-  for (std::string& code : codes) list.AddItem(std::move(code));
+  std::vector<std::vector<std::string>> rows;
+  rows.reserve(codes.size());
+  for (std::string& code : codes) rows.push_back({std::move(code)});
+  list.SetRows(std::move(rows));
 }
 
 void frmRandomInfo::LoadCurrencyCodes() {
@@ -111,10 +116,11 @@ void frmRandomInfo::LoadCurrencyCodes() {
   const ComponentStore& s = ctx_.store;
   std::vector<OfferedCurrency> host = HostCurrencies(s.IPCurrencyList);
   forms::Control& list = Ctl("cmbCurrencyCode");
-  list.Clear();
   // Rows are description and code; the code is what the box shows and the record keeps.
   list.SetBoundColumn(1);
   list.SetDisplayColumn(1);
+  std::vector<std::vector<std::string>> rows;
+  rows.reserve(kCommonCurrencies.size() + 1 + host.size());
   for (const Currency& common : kCommonCurrencies) {
     std::string description = common.description;
     const auto offered = std::find_if(
@@ -125,14 +131,15 @@ void frmRandomInfo::LoadCurrencyCodes() {
     } else if (s.CurrencyCodeFromMain == common.code && !s.DescCurrencyCodeFromMain.empty()) {
       description = s.DescCurrencyCodeFromMain;
     }
-    list.AddRow({std::move(description), common.code});
+    rows.push_back({std::move(description), common.code});
   }
-  list.AddRow({random_info_text::kSeparatorDescription, random_info_text::kSeparatorCode});
+  rows.push_back({random_info_text::kSeparatorDescription, random_info_text::kSeparatorCode});
   // A currency offered without a description is described by its code.
   for (OfferedCurrency& other : host) {
     if (other.description.empty()) other.description = other.code;
-    list.AddRow({std::move(other.description), std::move(other.code)});
+    rows.push_back({std::move(other.description), std::move(other.code)});
   }
+  list.SetRows(std::move(rows));
 }
 
 void frmRandomInfo::ran_payee_country_GotFocus() {

@@ -45,33 +45,37 @@ void modFormController::reStyleForm(forms::Form& form) {
     const int16_t form_style = ctx_.store.FormStyle;
     const Style style = StyleOf(form_style);
     const std::string font = installSystemFont(style.font);
+    // Set by name, as any kind of control that carries the property can take it.
+    const forms::PropertyValue back_color = int64_t{style.back_color};
+    const forms::PropertyValue font_name = font;
+    const forms::PropertyValue transparent = int64_t{0};
     for (const auto& owned : form.Controls()) {
       forms::Control& control = *owned;
       if (control.Tag() == kNoStyle) continue;
       switch (control.kind()) {
         case forms::ControlKind::kLabel:
-          control.SetBackColor(style.back_color);
-          
-          control.SetFontName(font);
+          control.SetProperty("BackColor", back_color);
+          control.SetProperty("BackStyle", transparent);
+          control.SetProperty("fontName", font_name);
           break;
         case forms::ControlKind::kTextBox:
-          control.SetFontName(font);
+          control.SetProperty("fontName", font_name);
           break;
         case forms::ControlKind::kFrame:
         case forms::ControlKind::kCheckBox:
         case forms::ControlKind::kOptionButton:
-          control.SetBackColor(style.back_color);
-          control.SetFontName(font);
+          control.SetProperty("BackColor", back_color);
+          control.SetProperty("fontName", font_name);
           break;
         case forms::ControlKind::kHyperLink:
-          control.SetBackColor(style.back_color);
+          control.SetProperty("BackColor", back_color);
           break;
         default:
           break;
       }
     }
-    form.SetBackColor(style.back_color);
-    
+    form.SetProperty("BackColor", back_color);
+    form.SetProperty("fontName", font_name);
   } catch (...) {
     validation::ReportTrappedError(ctx_, "modFormController.reStyleForm");
   }
