@@ -33,15 +33,16 @@ std::string Describe(bool value) {
 // The text a person reads off a control: its caption where it has one, the code of a data
 // list's current row, the text of a text or combo box.
 std::string ShownText(const forms::Control& c) {
-  switch (c.kind()) {
-    case forms::ControlKind::kTextBox:
-    case forms::ControlKind::kComboBox:
-      return c.Text();
-    case forms::ControlKind::kDataList:
-      return c.ListIndex() >= 0 ? c.BoundText() : c.Text();
-    default:
-      return c.Caption();
-  }
+  if (c.kind() == forms::ControlKind::kDataList && c.ListIndex() >= 0) return c.BoundText();
+  return forms::IsTextKind(c.kind()) ? c.Text() : c.Caption();
+}
+
+// The value an `expect attr` word stands for: a quoted text or an integer.
+forms::PropertyValue AttributeValue(const Word& word, const std::string& text) {
+  if (word.quoted) return text;
+  const auto n = ParseInteger(word.text);
+  if (!n) throw MalformedLine("an attribute value is a quoted text or an integer");
+  return static_cast<int64_t>(*n);
 }
 
 // Files under `root` whose name is `name` (ignoring case, as the platform's file system does).
@@ -220,7 +221,7 @@ void ScenarioRun::ExpectFiles(const std::string& what, const std::vector<Word>& 
 
 void ScenarioRun::ExpectControl(const std::string& what, const std::vector<Word>& w) {
   static const char* const kKnown[] = {"focus",  "text", "visible", "enabled", "selected",
-                                       "masked", "list", "row",     "checked"};
+                                       "masked", "list", "row",     "checked", "attr"};
   bool known = false;
   for (const char* k : kKnown) known = known || what == k;
   if (!known) throw MalformedLine("unknown expectation '" + what + "'");
@@ -249,6 +250,10 @@ void ScenarioRun::ExpectControl(const std::string& what, const std::vector<Word>
       }
       return;
     }
+  }
+  if (what == "attr") {
+    ExpectAttribute(w);
+    return;
   }
   if (what == "focus") {
     const forms::Form* front = ctx_->forms().ActiveForm();
@@ -310,6 +315,36 @@ void ScenarioRun::ExpectControl(const std::string& what, const std::vector<Word>
     const bool got = c->kind() == forms::ControlKind::kCheckBox ? c->Value() == 1 : c->Value() != 0;
     if (got != want)
       Fail("expected " + name + " checked " + Describe(want) + ", got " + Describe(got));
+  }
+}
+
+// A property read by name, as the restyler sets it; the form's own when the name is a form's.
+void ScenarioRun::ExpectAttribute(const std::vector<Word>& w) {
+  NeedWords(w, 5);
+  const forms::PropertyValue want = AttributeValue(w[4], Text(w[4]));
+  const std::string& property = w[3].text;
+  forms::PropertyValue got;
+  try {
+    const forms::Form* form = nullptr;
+    for (const auto& loaded : ctx_->forms().LoadedForms()) {
+      if (loaded->Name() == w[2].text) form = loaded.get();
+    }
+    if (form != nullptr) {
+      got = form->GetProperty(property);
+    } else if (const forms::Control* c = FindControl(w[2], false)) {
+      got = c->GetProperty(property);
+    } else {
+      Fail("expected " + property + " of " + w[2].text + ", got no such control on an open dialog");
+      return;
+    }
+  } catch (const RuntimeError& e) {
+    Fail("expected " + w[2].text + " " + property + " " + forms::DescribeValue(want) +
+         ", got run-time error " + std::to_string(e.number()));
+    return;
+  }
+  if (got != want) {
+    Fail("expected " + w[2].text + " " + property + " " + forms::DescribeValue(want) + ", got " +
+         forms::DescribeValue(got));
   }
 }
 

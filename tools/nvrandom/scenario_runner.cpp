@@ -335,59 +335,95 @@ bool ScenarioRun::ExecutePerson(const std::vector<Word>& w) {
     }
     return true;
   }
-  static const char* const kControlVerbs[] = {"focus", "type",  "key",   "keydown", "mouse",
-                                              "paste", "clear", "click", "pick"};
-  bool known = false;
-  for (const char* v : kControlVerbs) known = known || verb == v;
-  if (!known) return false;
-  NeedWords(w, 2);
-  const auto number = [&](size_t i) {
-    NeedWords(w, i + 1);
-    const auto n = ParseInteger(w[i].text);
-    if (!n) throw MalformedLine(verb + " needs a number, not '" + w[i].text + "'");
-    return static_cast<int16_t>(*n);
-  };
+  const ControlStatement* statement = FindControlStatement(verb);
+  if (statement == nullptr) return false;
   // Arguments first, so that a malformed line is reported as such whatever the dialog's state.
-  std::string text;
-  int16_t a = 0;
-  int16_t b = 0;
-  if (verb == "type" || verb == "paste" || verb == "pick") {
-    NeedWords(w, 3);
-    text = Text(w[2]);
-  } else if (verb == "key" || verb == "mouse") {
-    a = number(2);
-  } else if (verb == "keydown") {
-    a = number(2);
-    b = number(3);
-  }
+  const ControlArguments args = ReadArguments(*statement, w);
   forms::Control* c = PersonTarget(w[1]);
   if (c == nullptr) return true;
-  bool done = true;
-  if (verb == "focus") {
-    done = forms::user::Focus(*c);
-  } else if (verb == "type") {
-    done = forms::user::Type(*c, text);
-  } else if (verb == "key") {
-    done = forms::user::Key(*c, a);
-  } else if (verb == "keydown") {
-    done = forms::user::KeyDown(*c, a, b);
-  } else if (verb == "mouse") {
-    done = forms::user::MouseDown(*c, a);
-  } else if (verb == "paste") {
-    done = forms::user::Paste(*c, text);
-  } else if (verb == "clear") {
-    done = forms::user::ClearText(*c);
-  } else if (verb == "click") {
-    done = forms::user::Click(*c);
-  } else if (verb == "pick") {
-    if (!forms::Application::Available(*c) && c->CanFocus()) {
-      done = false;
-    } else if (!forms::user::Pick(*c, text)) {
-      Fail(c->FullName() + " has no row " + Quote(text));
-    }
+  switch (statement->act(*c, args)) {
+    case Outcome::kDone:
+      break;
+    case Outcome::kNotAvailable:
+      Fail(c->FullName() + " is not available");
+      break;
+    case Outcome::kNoSuchRow:
+      Fail(c->FullName() + " has no row " + Quote(args.text));
+      break;
   }
-  if (!done) Fail(c->FullName() + " is not available");
   return true;
+}
+
+ScenarioRun::ControlArguments ScenarioRun::ReadArguments(const ControlStatement& statement,
+                                                         const std::vector<Word>& w) const {
+  const size_t words = 2 + (statement.text ? 1 : 0) + statement.numbers;
+  NeedWords(w, words);
+  ControlArguments args;
+  size_t next = 2;
+  if (statement.text) args.text = Text(w[next++]);
+  for (int i = 0; i < statement.numbers; ++i, ++next) {
+    const auto n = ParseInteger(w[next].text);
+    if (!n) throw MalformedLine(w[0].text + " needs a number, not '" + w[next].text + "'");
+    args.numbers[static_cast<size_t>(i)] = static_cast<int>(*n);
+  }
+  return args;
+}
+
+namespace {
+
+using Outcome = ScenarioRun::Outcome;
+using Args = ScenarioRun::ControlArguments;
+
+Outcome Done(bool done) {
+  return done ? Outcome::kDone : Outcome::kNotAvailable;
+}
+
+int16_t Short(int n) {
+  return static_cast<int16_t>(n);
+}
+
+// The person's statements on one control: the words they take and what they do.
+const ScenarioRun::ControlStatement kControlStatements[] = {
+    {"focus", false, 0, [](forms::Control& c, const Args&) { return Done(forms::user::Focus(c)); }},
+    {"type", true, 0,
+     [](forms::Control& c, const Args& a) { return Done(forms::user::Type(c, a.text)); }},
+    {"key", false, 1,
+     [](forms::Control& c, const Args& a) {
+       return Done(forms::user::Key(c, Short(a.numbers[0])));
+     }},
+    {"keydown", false, 2,
+     [](forms::Control& c, const Args& a) {
+       return Done(forms::user::KeyDown(c, Short(a.numbers[0]), Short(a.numbers[1])));
+     }},
+    {"select", false, 2,
+     [](forms::Control& c, const Args& a) {
+       return Done(forms::user::Select(c, a.numbers[0], a.numbers[1]));
+     }},
+    {"menupaste", true, 0,
+     [](forms::Control& c, const Args& a) { return Done(forms::user::MenuPaste(c, a.text)); }},
+    {"mouse", false, 1,
+     [](forms::Control& c, const Args& a) {
+       return Done(forms::user::MouseDown(c, Short(a.numbers[0])));
+     }},
+    {"paste", true, 0,
+     [](forms::Control& c, const Args& a) { return Done(forms::user::Paste(c, a.text)); }},
+    {"clear", false, 0,
+     [](forms::Control& c, const Args&) { return Done(forms::user::ClearText(c)); }},
+    {"click", false, 0, [](forms::Control& c, const Args&) { return Done(forms::user::Click(c)); }},
+    {"pick", true, 0,
+     [](forms::Control& c, const Args& a) {
+       if (!forms::Application::Available(c) && c.CanFocus()) return Outcome::kNotAvailable;
+       return forms::user::Pick(c, a.text) ? Outcome::kDone : Outcome::kNoSuchRow;
+     }},
+};
+
+}  // namespace
+
+const ScenarioRun::ControlStatement* ScenarioRun::FindControlStatement(std::string_view verb) {
+  for (const ControlStatement& statement : kControlStatements) {
+    if (statement.verb == verb) return &statement;
+  }
+  return nullptr;
 }
 
 namespace {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <iosfwd>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "api/cls_random.h"
@@ -40,6 +42,20 @@ class ScenarioRun final : public forms::ModalDriver, public forms::FormObserver 
 
   FileResult Run();
 
+  // The person's statements that act on one control, as one table: the verb, whether a text
+  // follows the control, how many numbers, and what it does.
+  enum class Outcome { kDone, kNotAvailable, kNoSuchRow };
+  struct ControlArguments {
+    std::string text;
+    std::array<int, 2> numbers{};
+  };
+  struct ControlStatement {
+    std::string_view verb;
+    bool text = false;
+    int numbers = 0;
+    Outcome (*act)(forms::Control& control, const ControlArguments& args);
+  };
+
   // forms::ModalDriver
   void RunModal(forms::Form& form) override;
   // forms::FormObserver: the transcript.
@@ -66,9 +82,13 @@ class ScenarioRun final : public forms::ModalDriver, public forms::FormObserver 
   bool ExecutePerson(const std::vector<Word>& w);
   void ExecuteExpect(const std::vector<Word>& w);
   void ExpectControl(const std::string& what, const std::vector<Word>& w);
+  void ExpectAttribute(const std::vector<Word>& w);
   void ExpectFiles(const std::string& what, const std::vector<Word>& w);
   void ReadCountries(const std::vector<Word>& w);
 
+  static const ControlStatement* FindControlStatement(std::string_view verb);
+  ControlArguments ReadArguments(const ControlStatement& statement,
+                                 const std::vector<Word>& w) const;
   void NewInstance();
   void Show(const std::string& how);
   forms::Control* PersonTarget(const Word& word);

@@ -20,7 +20,7 @@ using K = forms::ControlKind;
 
 // fraMain holds two text boxes, a check box and two option buttons; fraOther holds an option
 // button and, inside fraInner, a third text box; an image array and a button sit on the form.
-inline constexpr std::array<ControlDesign, 14> kControls = {{
+inline constexpr std::array<ControlDesign, 16> kControls = {{
     {.kind = K::kFrame, .name = "fraMain", .caption = "Main"},
     {.kind = K::kTextBox,
      .name = "txtName",
@@ -39,6 +39,8 @@ inline constexpr std::array<ControlDesign, 14> kControls = {{
     {.kind = K::kImage, .name = "imgHelp", .index = 1},
     {.kind = K::kImage, .name = "imgHelp", .index = 2},
     {.kind = K::kCommandButton, .name = "cmdGo", .caption = "Go", .tab_index = 7},
+    {.kind = K::kComboBox, .name = "cboKind", .tab_index = 8},
+    {.kind = K::kDataList, .name = "dlCountry", .tab_index = 9},
 }};
 
 inline constexpr forms::FormDesign kPlainForm{"frmTest", "Test", 4800, 3600, false};
