@@ -261,6 +261,7 @@ void Control::AddRow(std::vector<std::string> row) {
 }
 
 void Control::SetRows(std::vector<std::vector<std::string>> rows) {
+  if (rows_ == rows && list_index_ < 0) return;
   rows_ = std::move(rows);
   list_index_ = -1;
   Notify(Property::kList);

@@ -219,38 +219,53 @@ void ScenarioRun::ExpectFiles(const std::string& what, const std::vector<Word>& 
   }
 }
 
-void ScenarioRun::ExpectControl(const std::string& what, const std::vector<Word>& w) {
-  static const char* const kKnown[] = {"focus",  "text", "visible", "enabled", "selected",
-                                       "masked", "list", "row",     "checked", "attr"};
-  bool known = false;
-  for (const char* k : kKnown) known = known || what == k;
-  if (!known) throw MalformedLine("unknown expectation '" + what + "'");
-  NeedWords(w, 3);
-  const auto boolean = [&](size_t i) {
-    NeedWords(w, i + 1);
-    const auto b = ParseBool(w[i].text);
-    if (!b) throw MalformedLine("expected true or false, not '" + w[i].text + "'");
-    return *b;
-  };
-  const auto number = [&](size_t i) {
-    NeedWords(w, i + 1);
-    const auto n = ParseInteger(w[i].text);
-    if (!n) throw MalformedLine("expected a number, not '" + w[i].text + "'");
-    return *n;
-  };
+namespace {
 
-  // A form's own caption, by the form's name.
-  if (what == "text") {
-    NeedWords(w, 4);
-    for (const auto& form : ctx_->forms().LoadedForms()) {
-      if (form->Name() != w[2].text) continue;
-      if (form->Caption() != Text(w[3])) {
-        Fail("expected " + w[2].text + " caption " + Quote(Text(w[3])) + ", got " +
-             Quote(form->Caption()));
-      }
-      return;
-    }
-  }
+// The words an expectation on a control compares with what it reads.
+enum class Wanted { kText, kTruth, kNumber, kTwoNumbers, kNumberAndText };
+
+// The expectations on one control: what they read off it, described as the expected words are.
+struct ControlReading {
+  std::string_view what;
+  Wanted wanted;
+  std::string (*read)(const forms::Control& c, long long index);
+};
+
+const ControlReading kControlReadings[] = {
+    {"text", Wanted::kText, [](const forms::Control& c, long long) { return Quote(ShownText(c)); }},
+    {"visible", Wanted::kTruth,
+     [](const forms::Control& c, long long) { return Describe(c.Visible()); }},
+    {"enabled", Wanted::kTruth,
+     [](const forms::Control& c, long long) { return Describe(c.Enabled()); }},
+    {"masked", Wanted::kTruth,
+     [](const forms::Control& c, long long) { return Describe(c.PasswordChar() == "*"); }},
+    {"checked", Wanted::kTruth,
+     [](const forms::Control& c, long long) {
+       const bool ticked =
+           c.kind() == forms::ControlKind::kCheckBox ? c.Value() == 1 : c.Value() != 0;
+       return Describe(ticked);
+     }},
+    {"selected", Wanted::kTwoNumbers,
+     [](const forms::Control& c, long long) {
+       return std::to_string(c.SelStart()) + " " + std::to_string(c.SelLength());
+     }},
+    {"list", Wanted::kNumber,
+     [](const forms::Control& c, long long) { return std::to_string(c.ListCount()); }},
+    {"row", Wanted::kNumberAndText,
+     [](const forms::Control& c, long long index) {
+       if (index < 0 || index >= c.ListCount()) return "no row " + std::to_string(index);
+       std::string joined;
+       for (const std::string& column : c.Row(static_cast<int>(index))) {
+         joined += (joined.empty() ? "" : ";") + column;
+       }
+       return std::to_string(index) + " " + Quote(joined);
+     }},
+};
+
+}  // namespace
+
+void ScenarioRun::ExpectControl(const std::string& what, const std::vector<Word>& w) {
+  NeedWords(w, 3);
   if (what == "attr") {
     ExpectAttribute(w);
     return;
@@ -263,59 +278,62 @@ void ScenarioRun::ExpectControl(const std::string& what, const std::vector<Word>
     }
     return;
   }
+  const ControlReading* reading = nullptr;
+  for (const ControlReading& r : kControlReadings) {
+    if (r.what == what) reading = &r;
+  }
+  if (reading == nullptr) throw MalformedLine("unknown expectation '" + what + "'");
+
+  const auto number = [&](size_t i) {
+    NeedWords(w, i + 1);
+    const auto n = ParseInteger(w[i].text);
+    if (!n) throw MalformedLine("expected a number, not '" + w[i].text + "'");
+    return *n;
+  };
+  std::string want;
+  long long index = 0;
+  switch (reading->wanted) {
+    case Wanted::kText:
+      NeedWords(w, 4);
+      want = Quote(Text(w[3]));
+      break;
+    case Wanted::kTruth: {
+      NeedWords(w, 4);
+      const auto b = ParseBool(w[3].text);
+      if (!b) throw MalformedLine("expected true or false, not '" + w[3].text + "'");
+      want = Describe(*b);
+      break;
+    }
+    case Wanted::kNumber:
+      want = std::to_string(number(3));
+      break;
+    case Wanted::kTwoNumbers:
+      want = std::to_string(number(3)) + " " + std::to_string(number(4));
+      break;
+    case Wanted::kNumberAndText:
+      index = number(3);
+      NeedWords(w, 5);
+      want = std::to_string(index) + " " + Quote(Text(w[4]));
+      break;
+  }
+
+  // A form's own caption, by the form's name.
+  if (what == "text") {
+    for (const auto& form : ctx_->forms().LoadedForms()) {
+      if (form->Name() != w[2].text) continue;
+      if (Quote(form->Caption()) != want) {
+        Fail("expected " + w[2].text + " caption " + want + ", got " + Quote(form->Caption()));
+      }
+      return;
+    }
+  }
   const forms::Control* c = FindControl(w[2], false);
   if (c == nullptr) {
     Fail("expected " + what + " of " + w[2].text + ", got no such control on an open dialog");
     return;
   }
-  const std::string name = c->FullName();
-  if (what == "text") {
-    const std::string got = ShownText(*c);
-    if (got != Text(w[3])) {
-      Fail("expected text " + Quote(Text(w[3])) + " in " + name + ", got " + Quote(got));
-    }
-  } else if (what == "visible" || what == "enabled") {
-    const bool want = boolean(3);
-    const bool got = what == "visible" ? c->Visible() : c->Enabled();
-    if (got != want) {
-      Fail("expected " + name + " " + what + " " + Describe(want) + ", got " + Describe(got));
-    }
-  } else if (what == "selected") {
-    const auto start = number(3);
-    const auto length = number(4);
-    if (c->SelStart() != start || c->SelLength() != length) {
-      Fail("expected " + name + " selection " + std::to_string(start) + " " +
-           std::to_string(length) + ", got " + std::to_string(c->SelStart()) + " " +
-           std::to_string(c->SelLength()));
-    }
-  } else if (what == "masked") {
-    const bool want = boolean(3);
-    const bool got = c->PasswordChar() == "*";
-    if (got != want)
-      Fail("expected " + name + " masked " + Describe(want) + ", got " + Describe(got));
-  } else if (what == "list") {
-    const auto want = number(3);
-    if (c->ListCount() != want) {
-      Fail("expected " + name + " to hold " + std::to_string(want) + " rows, got " +
-           std::to_string(c->ListCount()));
-    }
-  } else if (what == "row") {
-    const auto index = number(3);
-    NeedWords(w, 5);
-    std::string got;
-    for (const std::string& column : c->Row(static_cast<int>(index))) {
-      got += (got.empty() ? "" : ";") + column;
-    }
-    if (index < 0 || index >= c->ListCount() || got != Text(w[4])) {
-      Fail("expected row " + std::to_string(index) + " of " + name + " " + Quote(Text(w[4])) +
-           ", got " + Quote(got));
-    }
-  } else if (what == "checked") {
-    const bool want = boolean(3);
-    const bool got = c->kind() == forms::ControlKind::kCheckBox ? c->Value() == 1 : c->Value() != 0;
-    if (got != want)
-      Fail("expected " + name + " checked " + Describe(want) + ", got " + Describe(got));
-  }
+  const std::string got = reading->read(*c, index);
+  if (got != want) Fail("expected " + c->FullName() + " " + what + " " + want + ", got " + got);
 }
 
 // A property read by name, as the restyler sets it; the form's own when the name is a form's.

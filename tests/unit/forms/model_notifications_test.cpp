@@ -1,0 +1,142 @@
+// What a view mirrors: every change of a property is one notification naming it, lifecycle
+// stages are told apart, and observers may come and go while being notified.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/user_input.h"
+#include "platform/runtime_error.h"
+#include "test_form.h"
+
+namespace nvrandom::forms_test {
+namespace {
+
+class Mirror final : public forms::FormObserver {
+ public:
+  void ControlChanged(forms::Control& c, forms::Property p) override {
+    log.push_back(c.FullName() + "." + std::string(forms::PropertyName(p)));
+    if (on_change) on_change();
+  }
+  void FormChanged(forms::Form& f, forms::Property p) override {
+    log.push_back(f.Name() + "." + std::string(forms::PropertyName(p)));
+  }
+  void FormLifecycle(forms::Form& f, forms::FormEvent e) override {
+    log.push_back(f.Name() + " " + std::string(forms::FormEventName(e)));
+  }
+  std::vector<std::string> log;
+  std::function<void()> on_change;
+};
+
+struct SetterCase {
+  const char* control;
+  std::function<void(forms::Control&)> set;
+  std::vector<std::string> notifications;
+};
+
+// Each setter tells the observers once, naming its property; setting the same value again tells
+// nobody.
+TEST(ModelNotifications, EverySetterNamesItsProperty) {
+  using C = forms::Control;
+  const SetterCase cases[] = {
+      {"txtCode", [](C& c) { c.SetMaxLength(3); }, {"txtCode.MaxLength"}},
+      {"txtCode", [](C& c) { c.SetLocked(true); }, {"txtCode.Locked"}},
+      {"txtCode", [](C& c) { c.SetPasswordChar("*"); }, {"txtCode.PasswordChar"}},
+      {"txtCode", [](C& c) { c.SetText("ab"); }, {"txtCode.Text", "txtCode.Selection"}},
+      {"txtCode", [](C& c) { c.SetTag("x"); }, {"txtCode.Tag"}},
+      {"txtCode", [](C& c) { c.SetProperty("backcolor", int64_t{255}); }, {"txtCode.BackColor"}},
+      {"cmdGo", [](C& c) { c.SetProperty("FontName", std::string("Arial")); }, {"cmdGo.FontName"}},
+      {"cmdGo", [](C& c) { c.SetProperty("ButtonStyle", int64_t{1}); }, {"cmdGo.ButtonStyle"}},
+      {"cmdGo", [](C& c) { c.Move(10, 20); }, {"cmdGo.Left", "cmdGo.Top"}},
+      {"dlCountry", [](C& c) { c.SetBoundColumn(1); }, {"dlCountry.BoundColumn"}},
+      {"dlCountry", [](C& c) { c.SetDisplayColumn(1); }, {"dlCountry.DisplayColumn"}},
+      {"dlCountry",
+       [](C& c) {
+         c.SetColumnHeadings({"Name", "Code"});
+       },
+       {"dlCountry.ColumnHeadings"}},
+      {"dlCountry",
+       [](C& c) {
+         std::vector<std::vector<std::string>> rows(250, {"Name", "Code"});
+         c.SetRows(std::move(rows));
+       },
+       {"dlCountry.List"}},
+      {"optB", [](C& c) { c.SetValue(-1); }, {"optB.Value"}},
+  };
+  for (const SetterCase& k : cases) {
+    Harness h;
+    h.form->Show();
+    Mirror mirror;
+    h.app.AddObserver(&mirror);
+    forms::Control& c = h.C(k.control);
+    k.set(c);
+    EXPECT_EQ(mirror.log, k.notifications) << k.control;
+    mirror.log.clear();
+    k.set(c);
+    EXPECT_EQ(mirror.log, std::vector<std::string>{}) << k.control << " set again";
+    h.app.RemoveObserver(&mirror);
+  }
+}
+
+TEST(ModelNotifications, PropertiesByNameFollowTheControlsKind) {
+  Harness h;
+  forms::Control& frame = *h.form->Find("fraMain");
+  EXPECT_THROW(frame.GetProperty("BackStyle"), RuntimeError) << "BackStyle is a label's";
+  EXPECT_THROW(h.C("txtCode").GetProperty("Caption"), RuntimeError);
+  EXPECT_THROW(h.C("txtCode").SetProperty("MaxLength", std::string("3")), RuntimeError);
+  h.C("txtCode").SetProperty("maxlength", int64_t{3});
+  EXPECT_EQ(h.C("txtCode").MaxLength(), 3);
+  h.form->SetProperty("FontName", std::string("Tahoma"));
+  EXPECT_EQ(std::get<std::string>(h.form->GetProperty("fontname")), "Tahoma");
+}
+
+TEST(ModelNotifications, LifecycleStagesAreToldApart) {
+  Harness h;
+  Mirror mirror;
+  h.app.AddObserver(&mirror);
+  // The test form is shown over the modal child, so the child's unload activates nothing.
+  h.driver.script = [&](forms::Form&) { h.form->Show(); };
+  h.child->Show(true);
+  h.form->Hide();
+  h.form->Unload();
+  const std::vector<std::string> want = {
+      "frmChild loaded",   "frmChild shown modal",   "frmChild activated",
+      "frmTest loaded",    "frmTest shown embedded", "frmTest activated",
+      "frmChild unloaded", "frmTest hidden",         "frmTest unloaded",
+  };
+  std::vector<std::string> lifecycle;
+  for (const std::string& line : mirror.log) {
+    if (line.find('.') == std::string::npos) lifecycle.push_back(line);
+  }
+  EXPECT_EQ(lifecycle, want);
+  h.app.RemoveObserver(&mirror);
+}
+
+// An observer that removes another, or adds one, while being told of a change: the removed one
+// hears nothing more, the added one hears the next change.
+TEST(ModelNotifications, ObserversMayComeAndGoDuringANotification) {
+  Harness h;
+  Mirror first;
+  Mirror second;
+  Mirror late;
+  h.form->EnsureLoaded();
+  h.app.AddObserver(&first);
+  h.app.AddObserver(&second);
+  first.on_change = [&] {
+    h.app.RemoveObserver(&second);
+    h.app.AddObserver(&late);
+    first.on_change = nullptr;
+  };
+  h.C("txtCode").SetTag("a");
+  EXPECT_EQ(second.log, std::vector<std::string>{});
+  EXPECT_EQ(late.log, std::vector<std::string>{});
+  h.C("txtCode").SetTag("b");
+  EXPECT_EQ(late.log, std::vector<std::string>{"txtCode.Tag"});
+  EXPECT_EQ(first.log.size(), 2U);
+  h.app.RemoveObserver(&first);
+  h.app.RemoveObserver(&late);
+}
+
+}  // namespace
+}  // namespace nvrandom::forms_test
