@@ -23,7 +23,7 @@ std::optional<std::string> ReadBounded(const std::string& path, size_t limit) {
 }  // namespace
 
 std::optional<std::string> BuiltinCountryFileDecipher::Decipher(const std::string& path) {
-  const auto data = ReadBounded(path, kMaxFileSize);
+  const auto data = ReadBounded(path, max_file_size_);
   if (!data) return std::nullopt;
   return country_file::Decipher(*data);
 }

@@ -18,12 +18,17 @@ class CountryFileDecipher {
 };
 
 // Reads the file and deciphers it in memory (country_file_cipher.h): the plain text never
-// touches the disk. Files larger than kMaxFileSize are refused unread.
+// touches the disk. Files larger than `max_file_size` are refused unread.
 class BuiltinCountryFileDecipher final : public CountryFileDecipher {
  public:
   // A list of every country is some 10 KiB; this leaves room for any honest file.
   static constexpr size_t kMaxFileSize = 64u << 20;
+  explicit BuiltinCountryFileDecipher(size_t max_file_size = kMaxFileSize)
+      : max_file_size_(max_file_size) {}
   std::optional<std::string> Decipher(const std::string& path) override;
+
+ private:
+  size_t max_file_size_;
 };
 
 }  // namespace nvrandom

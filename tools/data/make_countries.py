@@ -4,10 +4,11 @@ ITU telephone country code, sorted by name.
 
 Names come from Debian's iso-codes (/usr/share/iso-codes/json/iso_3166-1.json), calling codes
 from python3-phonenumbers. A territory without a calling code of its own in phonenumbers
-(uninhabited ones such as Bouvet Island) keeps an empty phone field. Run once when either
-package changes; the output is committed and the build enciphers it.
+(Antarctica, Pitcairn and the uninhabited ones such as Bouvet Island) keeps an empty phone
+field. Run once when either package changes; the output is committed and the build enciphers
+it. Debian's own interpreter is the one that sees the packaged modules:
 
-    python3 tools/data/make_countries.py > data/FXCountries.csv
+    /usr/bin/python3 tools/data/make_countries.py > data/FXCountries.csv
 """
 
 import csv

@@ -4,9 +4,10 @@
 
 The list comes from Debian's iso-codes (/usr/share/iso-codes/json/iso_4217.json). Codes that
 are not money one pays a bill in are left out: fund and accounting units, precious metals, the
-bond-market units, special drawing rights, and the testing and "no currency" codes.
+bond-market units, special drawing rights, and the testing and "no currency" codes. Run once
+when iso-codes changes; the output is committed:
 
-    python3 tools/data/make_currencies.py > data/IPCurrencyList.csv
+    /usr/bin/python3 tools/data/make_currencies.py > data/IPCurrencyList.csv
 """
 
 import csv

@@ -6,12 +6,14 @@ namespace nvrandom {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
+}
 
 std::string_view Trim(std::string_view text) {
-  const size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
 }
 
 bool IsCountryCode(std::string_view code) {
@@ -25,48 +27,55 @@ bool IsPhoneCode(std::string_view phone) {
          std::all_of(phone.begin(), phone.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
+// A field without quotes as it stands; a quoted one up to its closing quote, "" standing for one
+// quote, with whatever follows the closing quote up to the comma. `i` is left on the comma or at
+// the end of the line.
+std::string_view ReadField(std::string_view line, size_t& i, std::string& unquoted) {
+  const size_t start = i;
+  size_t first = i;
+  while (first < line.size() && IsBlank(line[first])) ++first;
+  if (first == line.size() || line[first] != '"') {
+    i = std::min(line.find(',', i), line.size());
+    return line.substr(start, i - start);
+  }
+  unquoted.clear();
+  i = first + 1;
+  while (i < line.size()) {
+    const size_t quote = std::min(line.find('"', i), line.size());
+    unquoted.append(line.substr(i, quote - i));
+    i = quote;
+    if (i + 1 < line.size() && line[i + 1] == '"') {
+      unquoted += '"';
+      i += 2;
+    } else {
+      i = std::min(i + 1, line.size());
+      break;
+    }
+  }
+  const size_t comma = std::min(line.find(',', i), line.size());
+  unquoted.append(line.substr(i, comma - i));
+  i = comma;
+  return unquoted;
+}
+
 // The first three fields of a line, each trimmed, and how many fields the line has; fields past
 // the third are only looked at for being empty, so a line of a million commas costs one pass.
 struct SplitLine {
-  std::string fields[3];
+  std::string_view fields[3];
   size_t count = 0;
   bool filled_extra = false;  // a field past the third holds something
 };
 
-SplitLine Split(std::string_view line) {
-  constexpr size_t kKeep = 3;
+SplitLine Split(std::string_view line, std::string (&quoted)[3]) {
   SplitLine out;
+  std::string spare;
   size_t i = 0;
   while (true) {
-    std::string field;
-    const size_t start = i;
-    while (i < line.size() && (line[i] == ' ' || line[i] == '\t')) ++i;
-    if (i < line.size() && line[i] == '"') {
-      // Quoted: up to the closing quote, "" standing for one quote; what follows the closing
-      // quote up to the comma is kept too.
-      ++i;
-      while (i < line.size()) {
-        if (line[i] != '"') {
-          field += line[i++];
-        } else if (i + 1 < line.size() && line[i + 1] == '"') {
-          field += '"';
-          i += 2;
-        } else {
-          ++i;
-          break;
-        }
-      }
-      const size_t comma = std::min(line.find(',', i), line.size());
-      field.append(line.substr(i, comma - i));
-      i = comma;
-    } else {
-      const size_t comma = std::min(line.find(',', i), line.size());
-      field.assign(line.substr(start, comma - start));
-      i = comma;
-    }
-    if (out.count < kKeep) {
-      out.fields[out.count] = std::string(Trim(field));
-    } else if (!Trim(field).empty()) {
+    std::string& buffer = out.count < 3 ? quoted[out.count] : spare;
+    const std::string_view field = Trim(ReadField(line, i, buffer));
+    if (out.count < 3) {
+      out.fields[out.count] = field;
+    } else if (!field.empty()) {
       out.filled_extra = true;
     }
     ++out.count;
@@ -80,23 +89,27 @@ SplitLine Split(std::string_view line) {
 
 std::vector<CountryRecord> ReadCountryRecords(std::string_view text) {
   std::vector<CountryRecord> records;
+  std::string quoted[3];  // the text of quoted fields, reused from line to line
   bool heading_seen = false;
   while (!text.empty()) {
-    const size_t end = std::min(text.find('\n'), text.size());
-    std::string_view line = text.substr(0, end);
+    // CR LF leaves an empty line behind its CR, skipped as blank.
+    size_t end = 0;
+    while (end < text.size() && text[end] != '\n' && text[end] != '\r') ++end;
+    const std::string_view line = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
-    if (line.ends_with('\r')) line.remove_suffix(1);
     if (Trim(line).empty()) continue;
 
-    SplitLine split = Split(line);
-    auto& [name, code, phone] = split.fields;
+    const SplitLine split = Split(line, quoted);
+    const auto& [name, code, phone] = split.fields;
     const bool is_record =
         split.count >= 3 && !split.filled_extra && !name.empty() && !code.empty();
     if (!heading_seen) {
       heading_seen = true;
       if (!is_record || !IsCountryCode(code) || !IsPhoneCode(phone)) continue;
     }
-    if (is_record) records.push_back({std::move(name), std::move(code), std::move(phone)});
+    if (is_record) {
+      records.push_back({std::string(name), std::string(code), std::string(phone)});
+    }
   }
   return records;
 }

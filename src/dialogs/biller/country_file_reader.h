@@ -16,9 +16,10 @@ struct CountryRecord {
 
 // The countries of a deciphered country file, in file order.
 //
-// A record is a line (LF or CR LF); blank lines are skipped. Fields are separated by commas and
-// trimmed of spaces and tabs; a field may be double-quoted to hold commas (`""` inside quotes is
-// one quote). A quote left open ends with its line, so one bad line never swallows the next.
+// A record is a line (ended by LF, CR LF or a lone CR); blank lines are skipped. Fields are
+// separated by commas and trimmed of spaces and tabs; a field may be double-quoted to hold commas
+// (`""` inside quotes is one quote). A quote left open ends with its line, so one bad line never
+// swallows the next.
 //
 // The first non-blank line is the heading record and is set aside, unless it is itself a country
 // (two ASCII letters as code, digits as phone): a file without a heading loses no country.
