@@ -59,26 +59,9 @@ class CancelWhenActive final : public forms::ModalDriver {
   void RunModal(forms::Form& form) override { forms::user::Click(form.Ctl("cmd_cancel")); }
 };
 
-// A country file as long as a list of every country (some 250), for while the sample is shorter.
-std::string EveryCountryLong() {
-  std::string rows = "Country,Code,Phone\n";
-  for (char a = 'A'; a <= 'J'; ++a) {
-    for (char b = 'A'; b <= 'Y'; ++b) {
-      rows += std::string("Country of ") + a + b + " and its islands," + a + b + "," +
-              std::to_string((a - 'A') * 25 + (b - 'A') + 200) + "\n";
-    }
-  }
-  return rows;
-}
-
-// state.range(0): 0 the sample country file as installed, 1 one as long as every country's.
 void BM_ShowFormToActivateThenCancel(benchmark::State& state) {
   Installed c;
   if (!c.tree.ok()) return state.SkipWithError("cannot make the installation tree");
-  if (state.range(0) == 1 &&
-      !scenario::WriteCountryFile(c.tree.install() + "FXCountries", EveryCountryLong())) {
-    return state.SkipWithError("cannot write the long country file");
-  }
   {
     // The whole sample file is offered: every country of it, not the two a failed read leaves.
     auto dialog = frmRandomInfo::Create(c.ctx, nullptr);
@@ -103,7 +86,7 @@ void BM_ShowFormToActivateThenCancel(benchmark::State& state) {
         ("a message box was shown: " + c.headless.message_box->shown[0].text).c_str());
   }
 }
-BENCHMARK(BM_ShowFormToActivateThenCancel)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_ShowFormToActivateThenCancel)->Unit(benchmark::kMicrosecond);
 
 // One pass over the loaded dialog. "Same style" finds every property set already (the usual
 // activation); "style change" alternates two styles, so every pass changes and notifies them.
