@@ -6,6 +6,7 @@
 #include <string>
 
 #include "api/cls_random.h"
+#include "app/headless_services.h"
 #include "component/context.h"
 #include "dialogs/biller/country_file_reader.h"
 #include "dialogs/biller/frm_random_info.h"
@@ -14,7 +15,6 @@
 #include "forms/form.h"
 #include "forms/user_input.h"
 #include "installation_tree.h"
-#include "platform/headless/headless_services.h"
 
 namespace nvrandom {
 namespace {

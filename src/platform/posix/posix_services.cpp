@@ -1,5 +1,4 @@
 #include "platform/posix/posix_services.h"
-
 #include <cstdlib>
 #include <ctime>
 #include <memory>

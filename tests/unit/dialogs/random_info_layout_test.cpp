@@ -13,7 +13,7 @@
 #include "component/context.h"
 #include "dialogs/biller/frm_random_info.h"
 #include "forms/control.h"
-#include "validation/headless_context.h"
+#include "support/test_host.h"
 
 namespace nvrandom {
 namespace {
@@ -84,7 +84,7 @@ struct Layout {
 class RandomInfoLayoutTest : public ::testing::TestWithParam<Layout> {};
 
 TEST_P(RandomInfoLayoutTest, ShownControlsFitTheirContainersAndCaptionsFit) {
-  testing::HeadlessContext h;
+  testing::Host h;
   ComponentStore& s = h.ctx.store;
   s.PayeeName = "A BILLER WITH A NAME OF THIRTY5";
   s.Provpostalstr = "ONKQCG";
