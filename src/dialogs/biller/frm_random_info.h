@@ -45,6 +45,11 @@ class frmRandomInfo final : public forms::Form {
   void SetFXBiller(bool isFX);
   void SetFXPhoneNumber(bool isFX);
   bool FXCurrencyExists(std::string_view code) const;
+  // Shows the foreign bank details (frmFXBankInfo) modally over this dialog and stores what
+  // the user confirmed into the biller record.
+  void ShowFXBankingInfoScreen();
+  // Whether a confirmed visit to the foreign bank details changed any of them.
+  bool FXBankChanged() const { return fx_bank_changed_; }
   // Whether the biller has been taken as international (set at set-up or by the user's Yes).
   bool ForeignCurrency() const { return foreign_currency_; }
 
@@ -108,6 +113,7 @@ class frmRandomInfo final : public forms::Form {
   Context& ctx_;
   RandomInfoEvents* events_;
   bool foreign_currency_ = false;
+  bool fx_bank_changed_ = false;
   int32_t frame3_height_at_load_ = 0;
   BankTexts bank_texts_at_setup_;
 };

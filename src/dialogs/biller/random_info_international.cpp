@@ -148,8 +148,7 @@ void frmRandomInfo::ran_payee_country_LostFocus() {
 
 void frmRandomInfo::cmdFXBankingInfo_Click() {
   Trace("cmdFXBankingInfo_Click");
-  // The foreign bank details dialog (frmFXBankInfo) opens here through ShowFXBankingInfoScreen
-  // once that dialog exists; until then the button opens nothing.
+  ShowFXBankingInfoScreen();
 }
 
 }  // namespace nvrandom

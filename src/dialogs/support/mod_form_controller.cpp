@@ -49,6 +49,8 @@ void modFormController::reStyleForm(forms::Form& form) {
     const forms::PropertyValue back_color = int64_t{style.back_color};
     const forms::PropertyValue font_name = font;
     const forms::PropertyValue transparent = int64_t{0};
+    // Styled buttons take style 0 on the grey backgrounds and style 2 on the white ones.
+    const forms::PropertyValue button_style = int64_t{form_style < 2 ? 0 : 2};
     for (const auto& owned : form.Controls()) {
       forms::Control& control = *owned;
       if (control.Tag() == kNoStyle) continue;
@@ -69,6 +71,9 @@ void modFormController::reStyleForm(forms::Form& form) {
           break;
         case forms::ControlKind::kHyperLink:
           control.SetProperty("BackColor", back_color);
+          break;
+        case forms::ControlKind::kStyledButton:
+          control.SetProperty("ButtonStyle", button_style);
           break;
         default:
           break;
