@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/user_input.h"
@@ -56,46 +56,42 @@ TEST(Focus, LostFocusCanSendTheFocusBack) {
   EXPECT_EQ(h.app.Focused(), &h.C("txtName"));
 }
 
+// What takes a control out of reach: `name` (the control or a container) hidden or disabled.
+struct Removal {
+  const char* what;
+  const char* name;
+  bool hide;
+};
+void Remove(Harness& h, const Removal& r) {
+  if (r.hide) {
+    h.C(r.name).SetVisible(false);
+  } else {
+    h.C(r.name).SetEnabled(false);
+  }
+}
+
 // A control is available only when its form is shown and it and every container are visible and
 // enabled. A request for any other control is refused quietly: the focus stays, no LostFocus
 // runs, the observer hears of it (the transcript), and nothing is raised.
 TEST(Focus, RequestsForUnavailableControlsAreRefused) {
-  struct Case {
-    const char* what;
-    std::function<forms::Control&(Harness&)> target;
+  const Removal removals[] = {
+      {"hidden control", "txtCode", true},
+      {"disabled control", "txtCode", false},
+      {"inside a disabled frame", "fraInner", false},
+      {"inside a frame inside a hidden frame", "fraOther", true},
+      {"on a form that is loaded but not shown", nullptr, false},
   };
-  const Case cases[] = {
-      {"hidden control",
-       [](Harness& h) -> forms::Control& {
-         h.C("txtCode").SetVisible(false);
-         return h.C("txtCode");
-       }},
-      {"disabled control",
-       [](Harness& h) -> forms::Control& {
-         h.C("txtCode").SetEnabled(false);
-         return h.C("txtCode");
-       }},
-      {"inside a disabled frame",
-       [](Harness& h) -> forms::Control& {
-         h.C("fraOther").SetEnabled(false);
-         return h.C("txtInner");
-       }},
-      {"inside a frame inside a hidden frame",
-       [](Harness& h) -> forms::Control& {
-         h.C("fraOther").SetVisible(false);
-         return h.C("txtInner");
-       }},
-      {"on a form that is loaded but not shown",
-       [](Harness& h) -> forms::Control& { return h.child->Ctl("txtCode"); }},
-  };
-  for (const Case& row : cases) {
+  for (const Removal& row : removals) {
     SCOPED_TRACE(row.what);
     Harness h;
     h.form->Show();
     forms::Control& name = h.C("txtName");
     int lost = 0;
     name.events.LostFocus = [&] { ++lost; };
-    forms::Control& target = row.target(h);
+    forms::Control& target = row.name == nullptr                  ? h.child->Ctl("txtCode")
+                             : std::string(row.name) == "txtCode" ? h.C("txtCode")
+                                                                  : h.C("txtInner");
+    if (row.name != nullptr) Remove(h, row);
     bool moved = true;
     EXPECT_NO_THROW(moved = h.app.SetFocus(target));
     EXPECT_FALSE(moved);
@@ -116,6 +112,41 @@ TEST(Focus, RequestsWhileLoadingAreRefused) {
   EXPECT_FALSE(moved);
   EXPECT_EQ(h.observer.refused, std::vector<std::string>{"txtCode"});
   EXPECT_EQ(h.app.Focused(), &h.C("txtName"));
+}
+
+// The focused control, hidden or disabled itself or through a container, passes the focus on in
+// tab order, and sent keys reach the new control; with no control left, nothing has the focus and
+// the keys go nowhere.
+TEST(Focus, FocusLeavesAControlThatGoesAway) {
+  const std::pair<Removal, const char*> cases[] = {
+      {{"hidden", "txtCode", true}, "chkFlag"},
+      {{"disabled", "txtCode", false}, "chkFlag"},
+      {{"frame hidden", "fraMain", true}, "txtInner"},
+      {{"frame disabled", "fraMain", false}, "txtInner"},
+      {{"everything disabled", nullptr, false}, ""},
+  };
+  for (const auto& [removal, focused_after] : cases) {
+    SCOPED_TRACE(removal.what);
+    Harness h;
+    h.form->Show();
+    forms::Control& code = h.C("txtCode");
+    forms::user::Focus(code);
+    int lost = 0;
+    code.events.LostFocus = [&] { ++lost; };
+    if (removal.name != nullptr) {
+      Remove(h, removal);
+    } else {
+      for (const auto& c : h.form->Controls()) c->SetEnabled(false);
+    }
+    h.app.SendKeys("z");
+    const forms::Control* now = h.form->ActiveControl();
+    EXPECT_EQ(now != nullptr ? now->FullName() : std::string(), focused_after);
+    EXPECT_EQ(lost, 1);
+    EXPECT_EQ(code.Text(), "") << "a key reached a control that went away";
+    if (now != nullptr && now->FullName() == "txtInner") {
+      EXPECT_EQ(now->Text(), "z");
+    }
+  }
 }
 
 // Disabling or hiding a frame takes its children out of reach without touching their own

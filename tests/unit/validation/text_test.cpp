@@ -7,6 +7,9 @@
 namespace nvrandom::validation {
 namespace {
 
+// The everyday answers are in checks_text.scn; here, the bytes a scenario cannot write and the
+// character-counting edges.
+
 using namespace std::string_literals;
 
 struct CleanseRow {
@@ -22,10 +25,6 @@ TEST_P(CleanseCharactersTest, KeepsOnlyCodes32To125ExceptTheDoubleQuote) {
 
 INSTANTIATE_TEST_SUITE_P(Rows, CleanseCharactersTest,
                          ::testing::Values(
-                             // the double quote is dropped, the rest kept in order
-                             CleanseRow{"say \"hi\"", "say hi"},
-                             // tilde (126) dropped, closing brace (125) kept
-                             CleanseRow{"a~b}c", "ab}c"},
                              // the bounds of the kept range: blank, "!" and "#" kept
                              CleanseRow{" !#", " !#"},
                              // control characters, DEL and an embedded NUL dropped
@@ -55,17 +54,13 @@ TEST_P(PadTest, CutsOrFillsToTheLength) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, PadTest,
-    ::testing::Values(
-        // longer: PadLeft keeps the rightmost, PadRight the leftmost characters
-        PadRow{"1234567", 6, "234567", "123456"},
-        // shorter: blanks in front / behind
-        PadRow{"1234", 6, "  1234", "1234  "}, PadRow{"123456", 6, "123456", "123456"},
-        PadRow{"", 3, "   ", "   "}, PadRow{"abc", 0, "", ""},
-        // a negative length gives an empty text rather than an error
-        PadRow{"abc", -4, "", ""},
-        // characters, not bytes, are counted: "é" is one character of two bytes
-        PadRow{"\xC3\xA9", 3, "  \xC3\xA9", "\xC3\xA9  "},
-        PadRow{"a\xC3\xA9z", 2, "\xC3\xA9z", "a\xC3\xA9"}));
+    ::testing::Values(PadRow{"123456", 6, "123456", "123456"}, PadRow{"", 3, "   ", "   "},
+                      PadRow{"abc", 0, "", ""},
+                      // a negative length gives an empty text rather than an error
+                      PadRow{"abc", -4, "", ""},
+                      // characters, not bytes, are counted: "é" is one character of two bytes
+                      PadRow{"\xC3\xA9", 3, "  \xC3\xA9", "\xC3\xA9  "},
+                      PadRow{"a\xC3\xA9z", 2, "\xC3\xA9z", "a\xC3\xA9"}));
 
 struct AlphaRow {
   std::string text;
@@ -81,8 +76,7 @@ TEST_P(IsAlphaTest, TrueWhenAnyCharacterIsALetter) {
 INSTANTIATE_TEST_SUITE_P(Rows, IsAlphaTest,
                          ::testing::Values(
                              // one letter anywhere is enough: the rule is deliberately lax
-                             AlphaRow{"12A", true}, AlphaRow{"1 2 z", true}, AlphaRow{"12", false},
-                             AlphaRow{"", false},
+                             AlphaRow{"1 2 z", true},
                              // the neighbours of the letter ranges
                              AlphaRow{"@[`{", false},
                              // accented letters are not A-Z
