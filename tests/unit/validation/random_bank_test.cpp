@@ -83,7 +83,7 @@ TEST_F(RandomBankTest, OnlyWhatPassesTheLocalRulesReachesTheVerifier) {
       // seven characters lose the last before padding; longer ones keep their rightmost six;
       // untrimmed ids are padded as they are
       {"seven characters", account(" 0010039 ", "1234"),
-       "VerifyAccount [001003|1234" + pad26 + "|false]"},
+       "VerifyAccount [" + registry + "|1234" + pad26 + "|false]"},
       {"eight characters", account("12345678", "1234"),
        "VerifyAccount [345678|1234" + pad26 + "|false]"},
       {"untrimmed", account("001 ", "1234"), "VerifyAccount [  001 |1234" + pad26 + "|false]"},
