@@ -86,10 +86,15 @@ class TestForm final : public forms::Form {
 
 using testing::ScriptedDriver;
 
+// Records refused focus requests and the forms' lifecycle stages.
 class RecordingObserver final : public forms::FormObserver {
  public:
   void FocusRefused(forms::Control& control) override { refused.push_back(control.FullName()); }
+  void FormLifecycle(forms::Form& f, forms::FormEvent e) override {
+    lifecycle.push_back(f.Name() + " " + std::string(forms::FormEventName(e)));
+  }
   std::vector<std::string> refused;
+  std::vector<std::string> lifecycle;
 };
 
 // An application with a test form, a second one to open over it, a scripted modal driver and an
