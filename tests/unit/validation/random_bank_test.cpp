@@ -93,6 +93,8 @@ TEST_F(RandomBankTest, OnlyWhatPassesTheLocalRulesReachesTheVerifier) {
        "VerifyAccount [" + registry + "|046454287RT0001" + std::string(15, ' ') + "|false]"},
       {"made-up business number", business("123456789"), ""},
       {"repeated digits", business("111111112"), ""},
+      {"all zeros", business("000000000"), ""},
+      {"a leading blank", business(" 046454286"), ""},
       {"decimal point: the account's character rule", business("1234567.8"), ""},
   };
   for (const Case& row : cases) {
@@ -137,6 +139,10 @@ TEST_F(RandomBankTest, IncompleteInputAsksNobody) {
     EXPECT_EQ(message, "Invalid bank account");
     EXPECT_EQ(length, 20);
   }
+  // A blank in the account is shown at once, as a critical OK box (its text: checks_bank.scn).
+  EXPECT_EQ(random.VerifyAccount("001", "12 34", message), 0);
+  ASSERT_EQ(h.boxes.shown.size(), 1u);
+  EXPECT_EQ(h.boxes.shown[0].style, msgbox::kOKOnly | msgbox::kCritical);
   EXPECT_EQ(script.created, 0);
 }
 
