@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "forms/user_input.h"
 #include "platform/runtime_error.h"
 #include "test_form.h"
 
