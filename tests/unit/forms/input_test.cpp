@@ -199,13 +199,17 @@ TEST(Input, EditingActsOnTheSelectionWithinMaxLength) {
   }
   Harness h;
   forms::Control& name = h.C("txtName");
-  name.SetText("ab");
+  name.SetText("h\xC3\xA9l");
+  EXPECT_EQ(name.SelStart(), 3) << "the caret after setting the text, in characters";
   int changes = 0;
   name.events.Change = [&] { ++changes; };
-  name.SetText("ab");
+  name.SetText("h\xC3\xA9l");
   EXPECT_EQ(changes, 0) << "the same text from code";
   name.SetSelStart(99);
-  EXPECT_EQ(name.SelStart(), 2) << "clipped to the characters";
+  EXPECT_EQ(name.SelStart(), 3) << "clipped to the characters";
+  name.SetSelStart(1);
+  name.SetSelLength(1);
+  EXPECT_EQ(name.SelText(), "\xC3\xA9");
 }
 
 // Keys sent by a handler complete before the next typed key and go to the control that has the
