@@ -130,6 +130,8 @@ void frmRandomInfo::Form_Load() {
   }
   pending_account_.clear();
   SetupForm();
+  // The bank numbers' confirmation row appears only when the acceptance asks for re-keying.
+  HideBankConfirmation();
   bank_texts_at_setup_ = {Ctl("txtAccount").Text(), Ctl("txtBankID").Text(),
                           Ctl("txtTransit").Text(), Ctl("txtRoutingNumber").Text(),
                           Ctl("txtBankAccountNumber").Text()};
