@@ -132,6 +132,8 @@ void frmRandomInfo::Form_Load() {
   SetupForm();
   // The bank numbers' confirmation row appears only when the acceptance asks for re-keying.
   HideBankConfirmation();
+  Ctl("lblBankInfoConfirm").SetVisible(false);
+  Ctl("txtConfirmBankAccountNumber").SetVisible(false);
   bank_texts_at_setup_ = {Ctl("txtAccount").Text(), Ctl("txtBankID").Text(),
                           Ctl("txtTransit").Text(), Ctl("txtRoutingNumber").Text(),
                           Ctl("txtBankAccountNumber").Text()};
