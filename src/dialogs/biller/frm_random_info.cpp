@@ -11,6 +11,7 @@
 #include "dialogs/support/mod_form_controller.h"
 #include "forms/application.h"
 #include "platform/message_box.h"
+#include "validation/error_trap.h"
 #include "validation/random.h"
 #include "validation/text.h"
 
@@ -28,9 +29,14 @@ std::shared_ptr<frmRandomInfo> frmRandomInfo::Create(Context& ctx, RandomInfoEve
 frmRandomInfo::frmRandomInfo(Context& ctx, RandomInfoEvents* events)
     : forms::Form(ctx.forms(), RandomInfoForm(), RandomInfoControls()), ctx_(ctx), events_(events) {
   BindEvents();
+  BindKeyFilters();
+  BindChangeRules();
+  BindFocusReports();
+  BindPasteGuards();
 }
 
 void frmRandomInfo::BindEvents() {
+  On("cmd_ok").Click = [this] { cmd_ok_Click(); };
   On("cmd_cancel").Click = [this] { cmd_cancel_Click(); };
   On("cmd_help").Click = [this] { cmd_help_Click(); };
   On("cmdCheque").Click = [this] { cmdCheque_Click(); };
@@ -85,6 +91,11 @@ void frmRandomInfo::Trace(std::string_view procedure) {
   TraceEntry(ctx_, random_info_text::kLabelPrefix, procedure);
 }
 
+void frmRandomInfo::ReportFailure(std::string_view procedure) noexcept {
+  validation::ReportTrappedError(
+      ctx_, std::string(random_info_text::kLabelPrefix) + std::string(procedure));
+}
+
 void frmRandomInfo::RaiseCancel() {
   if (events_ != nullptr) events_->Cancel();
 }
@@ -117,7 +128,12 @@ void frmRandomInfo::Form_Load() {
     Ctl(shown).SetBackColor(forms::colors::kWindowBackground);
     Ctl(shown).SetTag(random_info_text::kNoStyle);
   }
+  pending_account_.clear();
   SetupForm();
+  // The bank numbers' confirmation row appears only when the acceptance asks for re-keying.
+  HideBankConfirmation();
+  Ctl("lblBankInfoConfirm").SetVisible(false);
+  Ctl("txtConfirmBankAccountNumber").SetVisible(false);
   bank_texts_at_setup_ = {Ctl("txtAccount").Text(), Ctl("txtBankID").Text(),
                           Ctl("txtTransit").Text(), Ctl("txtRoutingNumber").Text(),
                           Ctl("txtBankAccountNumber").Text()};

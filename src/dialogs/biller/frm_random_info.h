@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -92,8 +93,51 @@ class frmRandomInfo final : public forms::Form {
   void cmbCurrencyCode_KeyPress(int16_t& KeyAscii);
   void cmbCurrencyCode_LostFocus();
 
+  // Acceptance of the biller.
+  void cmd_ok_Click();
+  // The re-keying state of changed Canadian bank details: the account kept at the first press
+  // that asked for confirmation; empty when no confirmation is pending.
+  const std::string& PendingAccount() const { return pending_account_; }
+
  private:
   void BindEvents();
+  // The field entry rules: key filters, change rules, focus reports and paste guards.
+  void BindKeyFilters();
+  void BindChangeRules();
+  void BindFocusReports();
+  void BindPasteGuards();
+  // Runs one event procedure: its trace line, then `body`; a run-time failure inside is
+  // reported through ShowError under the procedure's label and goes no further.
+  template <typename Body>
+  void RunProcedure(std::string_view procedure, Body&& body) {
+    Trace(procedure);
+    try {
+      body();
+    } catch (...) {
+      ReportFailure(procedure);
+    }
+  }
+  void ReportFailure(std::string_view procedure) noexcept;
+  // Focus to the first of `names` that is available; false when none is.
+  bool FocusFirstAvailable(std::initializer_list<std::string_view> names);
+  // The bank-number boxes' rules.
+  void BankNumberChanged(std::string_view box);
+  void HideBankConfirmation();
+  void ShowBankConfirmation();
+  // The acceptance chain; false when a check stopped it (the dialog stays open).
+  bool AcceptanceChecks(std::string& business_number);
+  bool CheckAddress();
+  bool CheckTelephone();
+  bool CheckFax();
+  bool CheckContactDetails(std::string& business_number);
+  bool CheckCanadianBankFields();
+  bool CheckRoutingNumberDetails();
+  bool CheckIndividual();
+  bool CheckForeignBank();
+  bool CheckCanadianBankAccount();
+  bool CheckRekeying();
+  void CopyIntoRecord(const std::string& business_number);
+  void SelectAll(std::string_view name);
   void Trace(std::string_view procedure);
   void ShowHelpTopic(unsigned topic);
   void RaiseCancel();
@@ -116,6 +160,7 @@ class frmRandomInfo final : public forms::Form {
   bool fx_bank_changed_ = false;
   int32_t frame3_height_at_load_ = 0;
   BankTexts bank_texts_at_setup_;
+  std::string pending_account_;
 };
 
 }  // namespace nvrandom

@@ -6,6 +6,7 @@
 
 #include "component/context.h"
 #include "dialogs/biller/frm_random_info.h"
+#include "dialogs/biller/random_info_codes.h"
 #include "dialogs/biller/random_info_texts.h"
 #include "forms/control.h"
 #include "validation/text.h"
@@ -16,14 +17,6 @@ namespace {
 
 constexpr int16_t kBackspace = 8;
 constexpr int16_t kEnter = 13;
-
-// The United States codes of US mode, in their order: the states, the District of Columbia and
-// the territories and freely associated states.
-constexpr std::array<const char*, 59> kUSStates = {
-    "AK", "AL", "AR", "AS", "AZ", "CA", "CO", "CT", "DC", "DE", "FL", "FM", "GA", "GU", "HI",
-    "IA", "ID", "IL", "IN", "KS", "KY", "LA", "MA", "MD", "ME", "MH", "MI", "MN", "MO", "MP",
-    "MS", "MT", "NC", "ND", "NE", "NH", "NJ", "NM", "NV", "NY", "OH", "OK", "OR", "PA", "PR",
-    "PW", "RI", "SC", "SD", "TN", "TX", "UT", "VA", "VI", "VT", "WA", "WI", "WV", "WY"};
 
 struct Currency {
   const char* code;
@@ -88,8 +81,10 @@ void frmRandomInfo::LoadProvinces() {
   forms::Control& list = Ctl("ran_payee_prov");
   if (USMode()) {
     std::vector<std::vector<std::string>> rows;
-    rows.reserve(kUSStates.size());
-    for (const char* state : kUSStates) rows.push_back({state});
+    rows.reserve(random_info_codes::kUSStates.size());
+    for (const std::string_view state : random_info_codes::kUSStates) {
+      rows.push_back({std::string(state)});
+    }
     list.SetRows(std::move(rows));
     return;
   }

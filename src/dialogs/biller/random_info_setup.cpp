@@ -136,7 +136,8 @@ void frmRandomInfo::SetupForm() {
 
   if (us_mode || s.PayeeIndBussFlg == " ") {
     Ctl("optCBusiness").SetValue(-1);
-    if (s.PayeeBusinessNum.empty()) {
+    // The acceptance stores nine blanks for a biller without a business number.
+    if (TrimBlanks(s.PayeeBusinessNum).empty()) {
       Ctl("chkBNNotAvailable").SetValue(1);
     } else {
       Ctl("chkBNNotAvailable").SetValue(0);

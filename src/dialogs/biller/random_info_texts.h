@@ -51,6 +51,40 @@ inline constexpr const char* kNoInternationalSettings =
     "International payment settings have not been setup. To set these, you can go to the System "
     "Administration screen and click 'International Payment Settings'.";
 
+// The acceptance of the biller.
+inline constexpr const char* kInvalidStreet = "The street you have entered is invalid.";
+inline constexpr const char* kPostOfficeBox =
+    "Post Office Box address cannot be used.  Please enter physical street address.";
+inline constexpr const char* kInvalidCity = "The city you have entered is invalid.";
+inline constexpr const char* kPhoneTooLong =
+    "The combined phone area code and phone number cannot exceed 14 digits.";
+inline constexpr const char* kEmailOrFax = "Please enter either an email address or a fax number.";
+inline constexpr const char* kFaxTooLong =
+    "The combined fax area code and fax number cannot exceed 14 digits.";
+inline constexpr const char* kEmailCaption = "E-mail Address entry";
+inline constexpr const char* kWebsiteCaption = "Website entry";
+inline constexpr const char* kEmailForInternational =
+    "An email address is required for international payments.";
+inline constexpr const char* kEmailForCurrencyStart = "An email address is required for ";
+inline constexpr const char* kEmailForCurrencyEnd = " payments.";
+inline constexpr const char* kBankIdCaption = "Bank Id Validation";
+inline constexpr const char* kDoubtfulBankId =
+    "That Bank ID does not appear to be valid. Please make sure you have not entered a cheque "
+    "number. Are you sure you want to use the Bank ID you have entered?";
+inline constexpr const char* kDoubtfulBankIdCaption = "Bank ID Validation";
+inline constexpr const char* kAccountWithSpaces =
+    "The account number you have entered is invalid, spaces in the middle are not allowed.";
+inline constexpr const char* kBankInfoRequired = "Bank information is required for the biller.";
+inline constexpr const char* kBankInfoForIndividuals =
+    "Bank information is mandatory for setting up Individuals.";
+inline constexpr const char* kBankInfoForInternational =
+    "Banking information is required for international payments.";
+inline constexpr const char* kBankAccountCaption = "Bank Account Number Validation";
+inline constexpr const char* kDuplicateCurrency =
+    "A biller with this name, biller account number and currency already exists. A biller can "
+    "only be added if the currency selected is not already used for this biller name / account "
+    "number combination.";
+
 inline constexpr const char* kHelpFile = "NORVIK.CHM>ShowTopic";
 inline constexpr unsigned kHelpTopicBiller = 506000012;
 
