@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,8 @@
 #include "dialog_monkey.h"
 #include "dialogs/biller/frm_random_info.h"
 #include "dialogs/biller/random_info_events.h"
+#include "dialogs/fxbank/frm_fx_bank_info.h"
+#include "forms/application.h"
 #include "validation/address_rules.h"
 
 namespace nvrandom::fuzz {
@@ -38,6 +41,49 @@ inline std::vector<std::string> Record(const ComponentStore& s) {
           s.PayeeCurrency,    s.PayeePhoneCountryCode, s.PayeeFaxCountryCode};
 }
 
+// The foreign bank fields, which only the foreign bank dialog's acceptance stores.
+inline std::vector<std::string> ForeignBank(const ComponentStore& s) {
+  return {s.PayeeFXBankName,    s.PayeeFXBankAddress, s.PayeeFXBankCity, s.PayeeFXBankProv,
+          s.PayeeFXBankCountry, s.PayeeFXBankAccount, s.PayeeFXBankSwift};
+}
+
+// Watches each modal visit of the foreign bank dialog: from its show to its unload (after the
+// biller dialog has stored what it returned) the foreign bank fields change only when the
+// dialog was accepted with OK.
+class ForeignBankWatch final : public forms::FormObserver {
+ public:
+  ForeignBankWatch(forms::Application& app, const ComponentStore& store)
+      : app_(app), store_(store) {
+    app_.AddObserver(this);
+  }
+  ~ForeignBankWatch() override { app_.RemoveObserver(this); }
+  ForeignBankWatch(const ForeignBankWatch&) = delete;
+  ForeignBankWatch& operator=(const ForeignBankWatch&) = delete;
+
+  void FormLifecycle(forms::Form& form, forms::FormEvent event) override {
+    const auto* bank = dynamic_cast<const frmFXBankInfo*>(&form);
+    if (bank == nullptr) return;
+    if (event == forms::FormEvent::kShownModal) {
+      before_ = ForeignBank(store_);
+    } else if (event == forms::FormEvent::kUnloaded && before_) {
+      const bool changed = ForeignBank(store_) != *before_;
+      Log("foreign bank dialog %s, fields %s\n", bank->OKClicked() ? "accepted" : "not accepted",
+          changed ? "changed" : "unchanged");
+      if (!bank->OKClicked() && changed) {
+        Violated("the foreign bank fields changed though the foreign bank dialog was not accepted");
+      }
+      before_.reset();
+    }
+  }
+
+ private:
+  forms::Application& app_;
+  const ComponentStore& store_;
+  std::optional<std::vector<std::string>> before_;
+};
+
+// The layout byte: bits 0-1 the kind of biller, bit 2 a new biller, bit 3 stored foreign bank
+// details (bit 4: a bank in the United States), bit 5 an imported biller.
 inline void SetLayout(ComponentStore& s, uint8_t layout) {
   s = ComponentStore{};
   s.poBoxWords = validation::SplitPoBoxWords();
@@ -85,6 +131,21 @@ inline void SetLayout(ComponentStore& s, uint8_t layout) {
       s.PayeePhoneCountryCode = "44";
       break;
   }
+  if (layout & 8) {
+    s.PayeeFXBankName = "NORTH BANK";
+    s.PayeeFXBankAddress = "1 HIGH ST";
+    s.PayeeFXBankCity = "LONDON";
+    s.PayeeFXBankProv = "LDN";
+    if (layout & 16) {
+      s.PayeeFXBankCountry = "US";
+      s.PayeeFXBankAccount = "02100002112345678";
+    } else {
+      s.PayeeFXBankCountry = "GB";
+      s.PayeeFXBankAccount = "GB29NWBK60161331926819";
+      s.PayeeFXBankSwift = "NWBKGB2L";
+    }
+  }
+  if (layout & 32) s.importFlag = -1;
 }
 
 // One run of the monkey over `in` on a dialog opened in the layout of the input's first byte,
@@ -95,16 +156,14 @@ inline size_t RunBillerMonkey(Context& ctx, headless::RecordingMessageBox& boxes
   CountingEvents events;
   std::shared_ptr<frmRandomInfo> dialog;
   std::vector<std::string> record;
-  DialogMonkey* monkey_ptr = nullptr;
   auto open = [&] {
     record = Record(ctx.store);
     events.accepted = events.cancelled = 0;
     dialog = frmRandomInfo::Create(ctx, &events);
     dialog->Show(false);
-    if (monkey_ptr != nullptr) monkey_ptr->CountPresses(*dialog);
   };
   DialogMonkey monkey(ctx.forms(), boxes, open);
-  monkey_ptr = &monkey;
+  const ForeignBankWatch watch(ctx.forms(), ctx.store);
   open();
   int shows = 0;
   const auto check = [&] {

@@ -4,7 +4,8 @@
 // person can do (focus, type, special keys, paste, mouse buttons, clicks, list choices, answers
 // to message boxes, closing) and acts on the front-most form through the one input path. After
 // each action it checks what must hold on any dialog; the dialog's own invariants are the
-// caller's `check`.
+// caller's `check`. It is the application's modal driver while it lives: a dialog shown modally
+// from an action is driven by the same input, with the same checks, until it closes.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -13,6 +14,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/headless_services.h"
@@ -42,25 +44,72 @@ class ByteReader {
   std::abort();
 }
 
-class DialogMonkey {
+// NVRANDOM_MONKEY_LOG=1 tells each action, to read back how an input failed.
+template <typename... Args>
+void Log(const char* format, Args... args) {
+  static const bool log = std::getenv("NVRANDOM_MONKEY_LOG") != nullptr;
+  if (log) std::fprintf(stderr, format, args...);
+}
+
+class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver {
  public:
+  // Modal dialogs nest at most this deep; a deeper one is closed at once.
+  static constexpr int kMaxModalDepth = 4;
+
   // `boxes` answers the message boxes; `reopen` shows the dialog again once it has closed.
   DialogMonkey(forms::Application& app, headless::RecordingMessageBox& boxes,
                std::function<void()> reopen)
-      : app_(app), boxes_(boxes), reopen_(std::move(reopen)) {}
+      : app_(app), boxes_(boxes), reopen_(std::move(reopen)) {
+    app_.SetModalDriver(this);
+    app_.AddObserver(this);
+  }
+  ~DialogMonkey() override {
+    app_.RemoveObserver(this);
+    app_.SetModalDriver(nullptr);
+  }
+  DialogMonkey(const DialogMonkey&) = delete;
+  DialogMonkey& operator=(const DialogMonkey&) = delete;
 
-  // Buttons pressed (by click, key or code) since the last action began: the acceptance may
-  // mask bank boxes only then.
+  // Counts the presses of the form's buttons (by click, key or code): the acceptance may mask
+  // bank boxes only during an action that pressed one. Each button is wrapped once, however
+  // often its form loads.
   void CountPresses(forms::Form& form) {
     for (const auto& control : form.Controls()) {
-      if (control->kind() != forms::ControlKind::kCommandButton || !control->events.Click) {
+      std::function<void()>& click = control->events.Click;
+      if (!forms::IsButtonKind(control->kind()) || !click ||
+          click.target<CountedClick>() != nullptr) {
         continue;
       }
-      control->events.Click = [this, inner = control->events.Click] {
-        ++presses_;
-        inner();
-      };
+      click = CountedClick{this, std::move(click)};
     }
+  }
+
+  // Every form that loads, the modal ones included, has its presses counted.
+  void FormLifecycle(forms::Form& form, forms::FormEvent event) override {
+    if (event == forms::FormEvent::kLoaded) CountPresses(form);
+  }
+
+  // A modal dialog takes the next actions of the input under way, on the front-most form, each
+  // checked as the outer ones are. When the input is used up (or the dialogs nest too deep) it
+  // is closed by its cancel button, else by code, so that nothing waits for input that never
+  // comes.
+  void RunModal(forms::Form& form) override {
+    const std::shared_ptr<forms::Form> keep = form.shared_from_this();
+    ++modal_depth_;
+    Log("modal %s opened (depth %d)\n", form.Name().c_str(), modal_depth_);
+    if (in_ != nullptr && check_ != nullptr && modal_depth_ <= kMaxModalDepth) {
+      ++modal_visits_;
+      const std::function<void()>& check = *check_;
+      while (Shown(form) && Step(*in_, check)) {
+      }
+    }
+    if (Shown(form)) {
+      forms::Control* cancel = form.Find("cmd_cancel");
+      if (cancel != nullptr && app_.TakesInput(*cancel)) forms::user::Click(*cancel);
+    }
+    if (Shown(form)) form.Unload(forms::unload_mode::kCode);
+    Log("modal %s closed\n", form.Name().c_str());
+    --modal_depth_;
   }
 
   // One action; false once the input is used up.
@@ -74,8 +123,11 @@ class DialogMonkey {
     }
     // The form outlives this action even when the action closes it.
     const std::shared_ptr<forms::Form> keep = form->shared_from_this();
-    RememberMasks(*form);
-    presses_ = 0;
+    const Masks masks = RememberMasks(*form);
+    const size_t presses = presses_;
+    // A modal dialog this action opens goes on with the same input and checks.
+    ByteReader* const outer_in = std::exchange(in_, &in);
+    const std::function<void()>* const outer_check = std::exchange(check_, &check);
     try {
       Act(*form, in);
     } catch (const std::exception& e) {
@@ -83,16 +135,32 @@ class DialogMonkey {
     } catch (...) {
       Violated("an exception escaped");
     }
+    in_ = outer_in;
+    check_ = outer_check;
     ++actions_;
-    CheckCommon();
+    CheckCommon(masks, presses_ != presses);
     check();
-    masks_.clear();
     return true;
   }
 
   size_t actions() const { return actions_; }
+  // Modal dialogs that took actions from the input.
+  size_t modal_visits() const { return modal_visits_; }
 
  private:
+  using Masks = std::map<forms::Control*, std::pair<bool, std::string>>;
+
+  struct CountedClick {
+    DialogMonkey* monkey;
+    std::function<void()> inner;
+    void operator()() const {
+      ++monkey->presses_;
+      inner();
+    }
+  };
+
+  static bool Shown(const forms::Form& form) { return form.IsLoaded() && form.Visible(); }
+
   static std::string Text(ByteReader& in, size_t length) {
     static constexpr const char* kPieces[] = {
         "a", "Z", "0",  "7",  " ",    "\"",   "@",        ".",
@@ -114,13 +182,9 @@ class DialogMonkey {
     const uint8_t op = in.Next();
     forms::Control* control = Pick(form, in);
     if (control == nullptr) return;
-    // NVRANDOM_MONKEY_LOG=1 tells each action, to read back how an input failed.
-    static const bool log = std::getenv("NVRANDOM_MONKEY_LOG") != nullptr;
-    if (log) {
-      const forms::Control* focused = app_.Focused();
-      std::fprintf(stderr, "action %d on %s (focus %s)\n", op % 16, control->Name().c_str(),
-                   focused != nullptr ? focused->Name().c_str() : "-");
-    }
+    const forms::Control* focused = app_.Focused();
+    Log("action %d on %s.%s (focus %s)\n", op % 16, form.Name().c_str(), control->Name().c_str(),
+        focused != nullptr ? focused->Name().c_str() : "-");
     namespace user = forms::user;
     switch (op % 16) {
       case 0:
@@ -196,16 +260,17 @@ class DialogMonkey {
     }
   }
 
-  void RememberMasks(forms::Form& form) {
-    masks_.clear();
+  static Masks RememberMasks(forms::Form& form) {
+    Masks masks;
     for (const auto& control : form.Controls()) {
       if (control->kind() == forms::ControlKind::kTextBox) {
-        masks_[control.get()] = {!control->PasswordChar().empty(), control->Text()};
+        masks[control.get()] = {!control->PasswordChar().empty(), control->Text()};
       }
     }
+    return masks;
   }
 
-  void CheckCommon() {
+  void CheckCommon(const Masks& masks, bool pressed) {
     forms::Control* focused = app_.Focused();
     if (focused != nullptr && !forms::Application::Available(*focused)) {
       Violated("the focus is on " + focused->Name() + ", which is not available");
@@ -220,8 +285,8 @@ class DialogMonkey {
       }
     }
     // Outside a button press nothing masks a box, and an edited box is shown in clear.
-    if (presses_ != 0) return;
-    for (const auto& [control, before] : masks_) {
+    if (pressed) return;
+    for (const auto& [control, before] : masks) {
       const bool masked = !control->PasswordChar().empty();
       if (masked && !before.first) Violated(control->Name() + " was masked without a press");
       if (masked && control->Text() != before.second) {
@@ -233,9 +298,13 @@ class DialogMonkey {
   forms::Application& app_;
   headless::RecordingMessageBox& boxes_;
   std::function<void()> reopen_;
-  std::map<forms::Control*, std::pair<bool, std::string>> masks_;
   size_t actions_ = 0;
-  int presses_ = 0;
+  size_t presses_ = 0;
+  size_t modal_visits_ = 0;
+  int modal_depth_ = 0;
+  // The input and checks of the action under way, for a modal dialog it opens.
+  ByteReader* in_ = nullptr;
+  const std::function<void()>* check_ = nullptr;
 };
 
 }  // namespace nvrandom::fuzz
