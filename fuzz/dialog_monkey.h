@@ -72,15 +72,17 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
 
   // Counts the presses of the form's buttons (by click, key or code): the acceptance may mask
   // bank boxes only during an action that pressed one. Each button is wrapped once, however
-  // often its form loads.
+  // often its form loads; a form that outlives a monkey (a default instance) counts for the
+  // next one.
   void CountPresses(forms::Form& form) {
     for (const auto& control : form.Controls()) {
       std::function<void()>& click = control->events.Click;
-      if (!forms::IsButtonKind(control->kind()) || !click ||
-          click.target<CountedClick>() != nullptr) {
-        continue;
+      if (!forms::IsButtonKind(control->kind()) || !click) continue;
+      if (auto* counted = click.target<CountedClick>()) {
+        counted->presses = presses_;
+      } else {
+        click = CountedClick{presses_, std::move(click)};
       }
-      click = CountedClick{this, std::move(click)};
     }
   }
 
@@ -124,7 +126,7 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
     // The form outlives this action even when the action closes it.
     const std::shared_ptr<forms::Form> keep = form->shared_from_this();
     const Masks masks = RememberMasks(*form);
-    const size_t presses = presses_;
+    const size_t presses = *presses_;
     // A modal dialog this action opens goes on with the same input and checks.
     ByteReader* const outer_in = std::exchange(in_, &in);
     const std::function<void()>* const outer_check = std::exchange(check_, &check);
@@ -138,7 +140,7 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
     in_ = outer_in;
     check_ = outer_check;
     ++actions_;
-    CheckCommon(masks, presses_ != presses);
+    CheckCommon(masks, *presses_ != presses);
     check();
     return true;
   }
@@ -151,10 +153,10 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
   using Masks = std::map<forms::Control*, std::pair<bool, std::string>>;
 
   struct CountedClick {
-    DialogMonkey* monkey;
+    std::shared_ptr<size_t> presses;
     std::function<void()> inner;
     void operator()() const {
-      ++monkey->presses_;
+      ++*presses;
       inner();
     }
   };
@@ -299,7 +301,8 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
   headless::RecordingMessageBox& boxes_;
   std::function<void()> reopen_;
   size_t actions_ = 0;
-  size_t presses_ = 0;
+  // Shared with the wrapped buttons, which may outlive the monkey.
+  std::shared_ptr<size_t> presses_ = std::make_shared<size_t>(0);
   size_t modal_visits_ = 0;
   int modal_depth_ = 0;
   // The input and checks of the action under way, for a modal dialog it opens.
