@@ -13,7 +13,7 @@
 #include "platform/general_date.h"
 #include "platform/memory_clipboard.h"
 #include "platform/path.h"
-#include "platform/re2_regex.h"
+#include "platform/regex.h"
 
 extern char** environ;
 
@@ -100,7 +100,7 @@ Services MakePosixServices() {
   s.clipboard = std::make_unique<MemoryClipboard>();
   s.directories = std::make_unique<XdgDirectories>();
   s.clock = std::make_unique<LocalClock>();
-  s.regex = std::make_unique<Re2Regex>();
+  s.regex = MakeSystemRegex();
   return s;
 }
 
