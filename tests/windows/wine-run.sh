@@ -9,5 +9,8 @@ here=$(dirname "$0")
 export WINEPREFIX="$prefix" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
 # One Wine server for the whole test run: starting it (and Wine's services) anew for every
 # program costs seconds each time.
-wineserver -p 60 2>/dev/null || true
+# Its services (started with the first program) must not hold the caller's output open, or
+# ctest would wait for them: they are started here, with no output of ours.
+wineserver -p 60 </dev/null >/dev/null 2>&1 || true
+wine cmd.exe /c exit </dev/null >/dev/null 2>&1
 exec wine "$@"

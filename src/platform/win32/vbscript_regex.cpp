@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 
 #include "platform/runtime_error.h"
 #include "platform/win32/com_handles.h"
@@ -80,7 +81,9 @@ bool VbscriptRegex::Test(std::string_view pattern, std::string_view text, bool i
     }
     e.ignore_case = ignore_case;
   }
-  com::Bstr wide_text(wide::FromUtf8(text));
+  const std::wstring utf16 = wide::FromUtf8(text);
+  if (utf16.size() > kMaxText) return false;
+  com::Bstr wide_text(utf16);
   VARIANT argument{};
   argument.vt = VT_BSTR;
   argument.bstrVal = wide_text.get();

@@ -41,14 +41,14 @@ TEST_P(WindowsDirTest, AlwaysEndsInASeparator) {
   Context ctx(std::move(headless.services));
   Random random(ctx);
   random.Get_Windows_Dir();
-  EXPECT_EQ(random.WindowsDir(), GetParam().expected);
-  EXPECT_EQ(random.SystemDir(), "/usr/lib/");
+  EXPECT_EQ(random.WindowsDir(), testing::P(GetParam().expected));
+  EXPECT_EQ(random.SystemDir(), "/usr/lib" + std::string(1, path::kSeparator));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, WindowsDirTest,
-    ::testing::Values(FolderRow{"/home/u/.local/share", "/home/u/.local/share/"},
-                      FolderRow{"/home/u/.local/share/", "/home/u/.local/share/"},
+    ::testing::Values(FolderRow{testing::P("/home/u/.local/share"), "/home/u/.local/share/"},
+                      FolderRow{testing::P("/home/u/.local/share/"), "/home/u/.local/share/"},
                       FolderRow{"", "/"}));
 
 struct BrowserRow {
