@@ -78,12 +78,12 @@ class Bstr {
   BSTR b_ = nullptr;
 };
 
-class Variant {
+class OwnedVariant {
  public:
-  Variant() { ::VariantInit(&v_); }
-  Variant(const Variant&) = delete;
-  Variant& operator=(const Variant&) = delete;
-  ~Variant() { ::VariantClear(&v_); }
+  OwnedVariant() { ::VariantInit(&v_); }
+  OwnedVariant(const OwnedVariant&) = delete;
+  OwnedVariant& operator=(const OwnedVariant&) = delete;
+  ~OwnedVariant() { ::VariantClear(&v_); }
 
   VARIANT* get() { return &v_; }
   const VARIANT* get() const { return &v_; }

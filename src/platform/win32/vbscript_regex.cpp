@@ -88,7 +88,7 @@ bool VbscriptRegex::Test(std::string_view pattern, std::string_view text, bool i
   argument.vt = VT_BSTR;
   argument.bstrVal = wide_text.get();
   DISPPARAMS params{&argument, nullptr, 1, 0};
-  com::Variant result;
+  com::OwnedVariant result;
   EXCEPINFO error{};
   const HRESULT hr = e.regexp->Invoke(e.ids[kTest], IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD,
                                       &params, result.put(), &error, nullptr);
