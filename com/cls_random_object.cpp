@@ -104,6 +104,37 @@ class EventPoint final : public IConnectionPoint, public ClsRandomEvents {
   std::vector<ComPtr<IDispatch>> sinks_;
 };
 
+bool IsMember(DISPID id) {
+  switch (id) {
+#define NVRANDOM_COM_CASE_PROPERTY(dispid, name, type, access, trace) case dispid:
+#define NVRANDOM_COM_CASE_METHOD(dispid, name, result) case dispid:
+    NVRANDOM_CLSRANDOM_MEMBERS(NVRANDOM_COM_CASE_PROPERTY, NVRANDOM_COM_CASE_METHOD)
+#undef NVRANDOM_COM_CASE_METHOD
+#undef NVRANDOM_COM_CASE_PROPERTY
+    return true;
+    default:
+      return false;
+  }
+}
+
+// Every member takes one value (a property put) or none: the type library's Invoke does not
+// check the count itself.
+HRESULT CheckArguments(DISPID id, WORD flags, const DISPPARAMS& params) {
+  if (!IsMember(id)) return DISP_E_MEMBERNOTFOUND;
+  if (params.cArgs > 0 && params.rgvarg == nullptr) return E_INVALIDARG;
+  if (params.cNamedArgs > 0 && params.rgdispidNamedArgs == nullptr) return E_INVALIDARG;
+  if (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {
+    if (params.cArgs != 1) return DISP_E_BADPARAMCOUNT;
+    if (params.cNamedArgs != 1 || params.rgdispidNamedArgs[0] != DISPID_PROPERTYPUT) {
+      return DISP_E_PARAMNOTFOUND;
+    }
+    return S_OK;
+  }
+  if (params.cNamedArgs > 0) return DISP_E_NONAMEDARGS;
+  if (params.cArgs > 0) return DISP_E_BADPARAMCOUNT;
+  return S_OK;
+}
+
 class ClsRandomObject final : public _ClsRandom,
                               public IProvideClassInfo2,
                               public ISupportErrorInfo,
@@ -166,6 +197,7 @@ class ClsRandomObject final : public _ClsRandom,
                       EXCEPINFO* error, UINT* arg_error) override {
     if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
     if (params == nullptr) return E_INVALIDARG;
+    if (const HRESULT hr = CheckArguments(id, flags, *params); FAILED(hr)) return hr;
     ::SetErrorInfo(0, nullptr);
     return type_info_->Invoke(static_cast<_ClsRandom*>(this), id, flags, params, result, error,
                               arg_error);

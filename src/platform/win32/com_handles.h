@@ -34,6 +34,7 @@ class ComPtr {
   }
   T* get() const { return p_; }
   T* operator->() const { return p_; }
+  T& operator*() const { return *p_; }
   explicit operator bool() const { return p_ != nullptr; }
   T** put() {
     reset();
