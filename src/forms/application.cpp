@@ -96,9 +96,17 @@ bool Application::SetFocus(Control& control) {
   MoveFocus(form, &control);
   // Moves asked for during the handlers, in order; bounded so handlers that bounce the focus
   // between two controls cannot hang the host.
-  for (int bounce = 0; pending_focus_ != nullptr && bounce < 64; ++bounce) {
-    Control* next = std::exchange(pending_focus_, nullptr);
-    if (Available(*next) && ActiveForm() == &next->form()) MoveFocus(next->form(), next);
+  for (int bounce = 0; bounce < 64; ++bounce) {
+    if (pending_focus_ != nullptr) {
+      Control* next = std::exchange(pending_focus_, nullptr);
+      if (Available(*next) && ActiveForm() == &next->form()) MoveFocus(next->form(), next);
+      continue;
+    }
+    // A handler disabled or hid the control the focus went to, and asked for no move that is
+    // still possible: the focus goes on in tab order, as when a focused control is disabled.
+    Control* active = form.active_control_;
+    if (active == nullptr || Available(*active) || !form.Visible()) break;
+    MoveFocus(form, NextTabStop(*active));
   }
   pending_focus_ = nullptr;
   return true;

@@ -26,6 +26,8 @@ std::string_view KindName(ControlKind kind) {
       return "option";
     case ControlKind::kCommandButton:
       return "button";
+    case ControlKind::kStyledButton:
+      return "styledbutton";
     case ControlKind::kFrame:
       return "frame";
     case ControlKind::kImage:
@@ -65,7 +67,7 @@ void Control::Reset() {
   const bool has_text = IsTextKind(design_.kind);
   back_color_ = has_text ? colors::kWindowBackground : colors::kButtonFace;
   fore_color_ = colors::kWindowText;
-  font_name_ = std::string(form_.FontName());
+  font_name_ = std::string(design_.font_name.empty() ? form_.FontName() : design_.font_name);
   button_style_ = 0;
   back_style_ = 1;
   caption_ = has_text ? std::string() : std::string(design_.caption);

@@ -21,6 +21,7 @@ enum class ControlKind {
   kCheckBox,
   kOptionButton,
   kCommandButton,
+  kStyledButton,  // a command button drawn in one of several styles (its ButtonStyle)
   kFrame,
   kImage,
   kHyperLink,
@@ -33,6 +34,11 @@ std::string_view KindName(ControlKind kind);
 constexpr bool IsTextKind(ControlKind kind) {
   return kind == ControlKind::kTextBox || kind == ControlKind::kComboBox ||
          kind == ControlKind::kDataList;
+}
+
+// Command buttons of either kind: focusable, pressed by a click, Enter or the space bar.
+constexpr bool IsButtonKind(ControlKind kind) {
+  return kind == ControlKind::kCommandButton || kind == ControlKind::kStyledButton;
 }
 
 // The columns of a list row written as one text: "001;Bank of Montreal".
@@ -62,6 +68,7 @@ struct ControlDesign {
   bool visible = true;
   bool enabled = true;
   std::span<const std::string_view> column_headings;  // data lists
+  std::string_view font_name;                         // empty: the form's font
 };
 
 // The handlers of a control's events. Key and mouse arguments are by reference where the

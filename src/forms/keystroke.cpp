@@ -64,15 +64,16 @@ void DefaultAction(Control& c, int16_t key) {
     }
     return;
   }
+  if (IsButtonKind(c.kind())) {
+    if ((key == ' ' || key == keys::kEnter) && c.events.Click) c.events.Click();
+    return;
+  }
   switch (c.kind()) {
     case ControlKind::kCheckBox:
       if (key == ' ') c.SetValue(c.Value() == 1 ? 0 : 1);
       return;
     case ControlKind::kOptionButton:
       if (key == ' ') c.SetValue(-1);
-      return;
-    case ControlKind::kCommandButton:
-      if ((key == ' ' || key == keys::kEnter) && c.events.Click) c.events.Click();
       return;
     default:
       return;

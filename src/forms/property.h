@@ -23,7 +23,7 @@ enum class Property : uint8_t {
   kForeColor,
   kBackStyle,  // labels: 0 transparent, 1 opaque
   kFontName,
-  kButtonStyle,  // 0 standard, 1 graphical
+  kButtonStyle,  // command buttons: 0 standard, 1 graphical; styled buttons: their drawing style
   kCaption,
   kText,
   kSelection,  // SelStart and SelLength

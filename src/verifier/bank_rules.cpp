@@ -1,22 +1,16 @@
 #include "verifier/bank_rules.h"
-#include "platform/ascii.h"
 
 #include <algorithm>
 #include <array>
+
+#include "platform/ascii.h"
 
 namespace nvrandom::verifier {
 
 namespace {
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-bool IsUpper(char c) {
-  return c >= 'A' && c <= 'Z';
-}
-
 bool AllDigits(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), IsDigit);
+  return std::all_of(text.begin(), text.end(), ascii::IsDigit);
 }
 
 bool AllZeros(std::string_view text) {
@@ -141,7 +135,8 @@ CheckOutcome CheckBusinessProgramAccount(std::string_view account) {
   constexpr size_t kReferenceAt = 11;
   constexpr size_t kLength = 15;
   const bool shaped = account.size() == kLength && AllDigits(account.substr(0, kNumberDigits)) &&
-                      IsUpper(account[kProgramAt]) && IsUpper(account[kProgramAt + 1]) &&
+                      ascii::IsUpper(account[kProgramAt]) &&
+                      ascii::IsUpper(account[kProgramAt + 1]) &&
                       AllDigits(account.substr(kReferenceAt));
   if (!shaped) {
     return Refused(

@@ -30,7 +30,7 @@ struct CheckOutcome {
 // ignored (the account check pads it to six characters). Accepted forms: the three digits typed
 // in the Bank ID box ("001"), the same preceded by a zero as in electronic routing numbers
 // ("0001"), and the six digits of a pseudo-institution such as the business-number registry
-// ("001003").
+// (kBusinessNumberBankId).
 struct BankIdReading {
   std::string number;                        // empty when the id is malformed
   const Institution* institution = nullptr;  // null when the number is not in the table

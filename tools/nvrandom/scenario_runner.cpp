@@ -1,7 +1,5 @@
 #include "scenario_runner.h"
 
-#include <unistd.h>
-
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -177,79 +175,50 @@ void ScenarioRun::Execute(const std::vector<Word>& w) {
     ExecuteExpect(w);
     return;
   }
-  try {
-    if (ExecuteHost(w)) return;
-  } catch (const RuntimeError& e) {
-    pending_error_ = PendingError{e.number(), e.description(), current_line_};
+  if (const HostStatement* statement = FindHostStatement(verb)) {
+    NeedWords(w, statement->words);
+    try {
+      (this->*statement->run)(w);
+    } catch (const RuntimeError& e) {
+      pending_error_ = PendingError{e.number(), e.description(), current_line_};
+    }
     return;
   }
   if (ExecutePerson(w)) return;
   throw MalformedLine("unknown statement '" + verb + "'");
 }
 
-bool ScenarioRun::ExecuteHost(const std::vector<Word>& w) {
-  const std::string& verb = w[0].text;
-  ClsRandom& cls = *instances_.back();
-  if (verb == "let") {
-    NeedWords(w, 3);
-    cls.Let(w[1].text, HostValue(w[2], tree_.root(), tree_.install()));
-  } else if (verb == "get") {
-    NeedWords(w, 2);
-    const Variant value = cls.Get(w[1].text);
-    out_ << w[1].text << " = " << FormatValue(value) << '\n';
-  } else if (verb == "new") {
-    NewInstance();
-  } else if (verb == "show") {
-    NeedWords(w, 2);
-    Show(w[1].text);
-  } else if (verb == "unload") {
-    cls.Unload_From_Remote();
-  } else if (verb == "call") {
-    NeedWords(w, 2);
-    int32_t value = 0;
-    if (w[1].text == "Get_hWnd") {
-      value = cls.Get_hWnd();
-    } else if (w[1].text == "Get_Height") {
-      value = cls.Get_Height();
-    } else if (w[1].text == "Get_Width") {
-      value = cls.Get_Width();
-    } else {
-      throw MalformedLine("no method " + w[1].text);
-    }
-    out_ << w[1].text << " = " << value << '\n';
-  } else if (verb == "file") {
-    NeedWords(w, 3);
-    const std::filesystem::path target = tree_.root() + Text(w[1]);
-    std::error_code ec;
-    std::filesystem::create_directories(target.parent_path(), ec);
-    std::ofstream file(target, std::ios::binary | std::ios::trunc);
-    file << Text(w[2]);
-    if (!file) Fail("cannot write " + Text(w[1]));
-  } else if (verb == "countries") {
-    ReadCountries(w);
-  } else if (verb == "check") {
-    NeedWords(w, 2);
-    std::vector<std::string> args;
-    for (size_t i = 2; i < w.size(); ++i) args.push_back(Text(w[i]));
-    CheckResult result;
-    try {
-      result = RunCheck(*ctx_, w[1].text, args);
-    } catch (const std::invalid_argument& e) {
-      throw MalformedLine(e.what());
-    }
-    checked_ = true;
-    last_value_ = result.value;
-    last_message_ = result.message;
-    out_ << w[1].text << " = " << FormatValue(result.value) << '\n';
-    if (result.message) out_ << "message = " << Quote(*result.message) << '\n';
-  } else {
-    return false;
+const ScenarioRun::HostStatement* ScenarioRun::FindHostStatement(std::string_view verb) {
+  static constexpr HostStatement kHostStatements[] = {
+      {"let", 3, &ScenarioRun::Let},           {"get", 2, &ScenarioRun::Get},
+      {"new", 1, &ScenarioRun::New},           {"show", 2, &ScenarioRun::Show},
+      {"unload", 1, &ScenarioRun::Unload},     {"call", 2, &ScenarioRun::Call},
+      {"file", 3, &ScenarioRun::WriteFile},    {"countries", 2, &ScenarioRun::ReadCountries},
+      {"check", 2, &ScenarioRun::Check},       {"answer", 2, &ScenarioRun::Answer},
+      {"close", 1, &ScenarioRun::CloseWindow}, {"shutdown", 1, &ScenarioRun::CloseWindow},
+  };
+  for (const HostStatement& statement : kHostStatements) {
+    if (statement.verb == verb) return &statement;
   }
-  return true;
+  return nullptr;
 }
 
-void ScenarioRun::Show(const std::string& how) {
+void ScenarioRun::Let(const std::vector<Word>& w) {
+  instances_.back()->Let(w[1].text, HostValue(w[2], tree_.root(), tree_.install()));
+}
+
+void ScenarioRun::Get(const std::vector<Word>& w) {
+  const Variant value = instances_.back()->Get(w[1].text);
+  out_ << w[1].text << " = " << FormatValue(value) << '\n';
+}
+
+void ScenarioRun::New(const std::vector<Word>&) {
+  NewInstance();
+}
+
+void ScenarioRun::Show(const std::vector<Word>& w) {
   ClsRandom& cls = *instances_.back();
+  const std::string& how = w[1].text;
   if (how == "modal") {
     last_result_ = cls.ShowForm();
   } else if (how == "import") {
@@ -263,8 +232,73 @@ void ScenarioRun::Show(const std::string& how) {
   out_ << "result " << *last_result_ << '\n';
 }
 
+void ScenarioRun::Unload(const std::vector<Word>&) {
+  instances_.back()->Unload_From_Remote();
+}
+
+void ScenarioRun::Call(const std::vector<Word>& w) {
+  ClsRandom& cls = *instances_.back();
+  int32_t value = 0;
+  if (w[1].text == "Get_hWnd") {
+    value = cls.Get_hWnd();
+  } else if (w[1].text == "Get_Height") {
+    value = cls.Get_Height();
+  } else if (w[1].text == "Get_Width") {
+    value = cls.Get_Width();
+  } else {
+    throw MalformedLine("no method " + w[1].text);
+  }
+  out_ << w[1].text << " = " << value << '\n';
+}
+
+void ScenarioRun::WriteFile(const std::vector<Word>& w) {
+  const std::filesystem::path target = tree_.root() + Text(w[1]);
+  std::error_code ec;
+  std::filesystem::create_directories(target.parent_path(), ec);
+  std::ofstream file(target, std::ios::binary | std::ios::trunc);
+  file << Text(w[2]);
+  if (!file) Fail("cannot write " + Text(w[1]));
+}
+
+void ScenarioRun::Check(const std::vector<Word>& w) {
+  std::vector<std::string> args;
+  for (size_t i = 2; i < w.size(); ++i) args.push_back(Text(w[i]));
+  CheckResult result;
+  try {
+    result = RunCheck(*ctx_, w[1].text, args);
+  } catch (const std::invalid_argument& e) {
+    throw MalformedLine(e.what());
+  }
+  checked_ = true;
+  last_value_ = result.value;
+  last_message_ = result.message;
+  out_ << w[1].text << " = " << FormatValue(result.value) << '\n';
+  if (result.message) out_ << "message = " << Quote(*result.message) << '\n';
+}
+
+void ScenarioRun::Answer(const std::vector<Word>& w) {
+  const std::string& a = w[1].text;
+  const int answer = a == "yes"      ? msgbox::kYes
+                     : a == "no"     ? msgbox::kNo
+                     : a == "ok"     ? msgbox::kOK
+                     : a == "cancel" ? msgbox::kCancel
+                                     : 0;
+  if (answer == 0) throw MalformedLine("answer takes yes, no, ok or cancel");
+  services_.message_box->QueueAnswer(answer);
+}
+
+void ScenarioRun::CloseWindow(const std::vector<Word>& w) {
+  forms::Form* front = ctx_->forms().ActiveForm();
+  if (front == nullptr) {
+    Fail("no dialog is open");
+  } else if (w[0].text == "close") {
+    forms::user::CloseBox(*front);
+  } else {
+    forms::user::Shutdown(*front);
+  }
+}
+
 void ScenarioRun::ReadCountries(const std::vector<Word>& w) {
-  NeedWords(w, 2);
   const std::string file = tree_.root() + Text(w[1]);
   std::string rows;
   bool ended = false;
@@ -312,29 +346,6 @@ forms::Control* ScenarioRun::PersonTarget(const Word& word) {
 
 bool ScenarioRun::ExecutePerson(const std::vector<Word>& w) {
   const std::string& verb = w[0].text;
-  forms::Form* front = ctx_->forms().ActiveForm();
-  if (verb == "answer") {
-    NeedWords(w, 2);
-    const std::string& a = w[1].text;
-    const int answer = a == "yes"      ? msgbox::kYes
-                       : a == "no"     ? msgbox::kNo
-                       : a == "ok"     ? msgbox::kOK
-                       : a == "cancel" ? msgbox::kCancel
-                                       : 0;
-    if (answer == 0) throw MalformedLine("answer takes yes, no, ok or cancel");
-    services_.message_box->QueueAnswer(answer);
-    return true;
-  }
-  if (verb == "close" || verb == "shutdown") {
-    if (front == nullptr) {
-      Fail("no dialog is open");
-    } else if (verb == "close") {
-      forms::user::CloseBox(*front);
-    } else {
-      forms::user::Shutdown(*front);
-    }
-    return true;
-  }
   const ControlStatement* statement = FindControlStatement(verb);
   if (statement == nullptr) return false;
   // Arguments first, so that a malformed line is reported as such whatever the dialog's state.

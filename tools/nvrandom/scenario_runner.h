@@ -75,11 +75,30 @@ class ScenarioRun final : public forms::ModalDriver, public forms::FormObserver 
     size_t line;
   };
 
+  // The statements that act on the host, the module or the dialog as a whole, as one table: the
+  // verb, the words it needs (the verb included), and what it does. A run-time error they raise
+  // is what `expect error` matches.
+  struct HostStatement {
+    std::string_view verb;
+    size_t words;
+    void (ScenarioRun::*run)(const std::vector<Word>& w);
+  };
+  static const HostStatement* FindHostStatement(std::string_view verb);
+
   // Executes the next statement; false at the end of the file or once it is malformed.
   bool Step();
   void Execute(const std::vector<Word>& w);
-  bool ExecuteHost(const std::vector<Word>& w);
   bool ExecutePerson(const std::vector<Word>& w);
+  void Let(const std::vector<Word>& w);
+  void Get(const std::vector<Word>& w);
+  void New(const std::vector<Word>& w);
+  void Show(const std::vector<Word>& w);
+  void Unload(const std::vector<Word>& w);
+  void Call(const std::vector<Word>& w);
+  void WriteFile(const std::vector<Word>& w);
+  void Check(const std::vector<Word>& w);
+  void Answer(const std::vector<Word>& w);
+  void CloseWindow(const std::vector<Word>& w);
   void ExecuteExpect(const std::vector<Word>& w);
   void ExpectControl(const std::string& what, const std::vector<Word>& w);
   void ExpectAttribute(const std::vector<Word>& w);
@@ -90,7 +109,6 @@ class ScenarioRun final : public forms::ModalDriver, public forms::FormObserver 
   ControlArguments ReadArguments(const ControlStatement& statement,
                                  const std::vector<Word>& w) const;
   void NewInstance();
-  void Show(const std::string& how);
   forms::Control* PersonTarget(const Word& word);
   forms::Control* FindControl(const Word& word, bool front_only);
   void Fail(const std::string& message);

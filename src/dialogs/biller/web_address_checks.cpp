@@ -2,6 +2,7 @@
 
 #include "component/context.h"
 #include "component/trace.h"
+#include "platform/ascii.h"
 #include "validation/text.h"
 
 namespace nvrandom {
@@ -21,14 +22,8 @@ std::string WithExample(std::string_view lead, std::string_view example) {
   return text;
 }
 
-char LowerAscii(char c) {
-  return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool AllowedInAddress(char c) {
-  const char lower = LowerAscii(c);
-  return (lower >= 'a' && lower <= 'z') || (c >= '0' && c <= '9') || c == '_' || c == '-' ||
-         c == '.';
+  return ascii::IsLetter(c) || ascii::IsDigit(c) || c == '_' || c == '-' || c == '.';
 }
 
 bool PartValid(std::string_view part) {

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <tuple>
 
 #include "api/cls_random.h"
 #include "api/property_table.h"
@@ -22,48 +23,25 @@ int ErrorOf(const std::function<void()>& f) {
   return 0;
 }
 
-// Row i of the province table comes from elements (0, i) and (1, i), for i below the array's
-// upper bound in its second dimension: the last column passed is left out. A row past the 21
-// of the table raises error 9 once the rows before it are in; a one-dimensional array has no
-// second dimension (9); a value that is no array is a type mismatch (13).
+// Row i of the province table comes from elements (0, i) and (1, i) of the array, all but the
+// last column; a row past the table's 21 raises error 9 once the rows before it are in. The errors
+// a host sees are in prov_areacode.scn; here, what was stored.
 TEST(Properties, ProvAreaCodeCopiesAllButTheLastColumn) {
-  struct Case {
-    const char* what;
-    Variant value;
-    int error;
-    int rows_copied;
-  };
-  const auto table = [](int32_t upper1) {
-    StringArray a = StringArray::TwoDimensional(0, 1, 0, upper1);
-    for (int32_t i = 0; i <= upper1; ++i) {
+  for (const auto& [upper, error, copied] : {std::tuple{2, 0, 2}, {22, 9, 21}}) {
+    SCOPED_TRACE(upper);
+    StringArray a = StringArray::TwoDimensional(0, 1, 0, upper);
+    for (int32_t i = 0; i <= upper; ++i) {
       a.at(0, i) = "P" + std::to_string(i);
       a.at(1, i) = "A" + std::to_string(i);
     }
-    return Variant(a);
-  };
-  const Case cases[] = {
-      {"2 x 3", table(2), 0, 2},
-      {"2 x 22: the whole table", table(21), 0, 21},
-      {"2 x 23: one row too many", table(22), 9, 21},
-      {"2 x 1: nothing", table(0), 0, 0},
-      {"one dimension", Variant(StringArray::OneDimensional(0, 5)), 9, 0},
-      {"a text", Variant("ON"), 13, 0},
-      {"nothing", Variant(), 13, 0},
-  };
-  for (const Case& row : cases) {
-    SCOPED_TRACE(row.what);
     Host h;
     ClsRandom cls(h.ctx);
     for (auto& r : h.ctx.store.Prov_areacode) r = {"old", "old"};
-    EXPECT_EQ(ErrorOf([&] { cls.Let("Prov_areacode", row.value); }), row.error);
+    EXPECT_EQ(ErrorOf([&] { cls.Let("Prov_areacode", Variant(a)); }), error);
     for (int i = 0; i < ComponentStore::kProvAreaCodeRows; ++i) {
       const auto& stored = h.ctx.store.Prov_areacode[static_cast<size_t>(i)];
-      if (i < row.rows_copied) {
-        EXPECT_EQ(stored[0], "P" + std::to_string(i));
-        EXPECT_EQ(stored[1], "A" + std::to_string(i));
-      } else {
-        EXPECT_EQ(stored[0], "old") << "row " << i;
-      }
+      EXPECT_EQ(stored[0], i < copied ? "P" + std::to_string(i) : "old") << i;
+      EXPECT_EQ(stored[1], i < copied ? "A" + std::to_string(i) : "old") << i;
     }
   }
 }
@@ -98,7 +76,8 @@ TEST(Properties, EveryMemberIsReachableByName) {
 }
 
 // The installation root is DLLPath up to and including the separator before the first
-// "NORVIK" folder name, compared case-sensitively; each new DLLPath replaces it.
+// "NORVIK" folder name, compared case-sensitively; each new DLLPath replaces it. trace_root.scn
+// shows the everyday cases through where the trace goes.
 TEST(Properties, DllPathDerivesTheInstallationRoot) {
   struct Case {
     std::string dll_path;
@@ -106,8 +85,6 @@ TEST(Properties, DllPathDerivesTheInstallationRoot) {
   };
   const std::string long_folder(100000 - 12, 'a');
   const Case cases[] = {
-      {P("/apps/NORVIK/Bin"), P("/apps/")},
-      {P("/apps/norvik/Bin"), ""},
       {P("/apps/Norvik/Bin"), ""},
       {P("/a/NORVIK/b/NORVIK/c"), P("/a/")},
       {P("/apps/NORVIK"), P("/apps/")},

@@ -1,59 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
+#include <vector>
 
-#include "forms/user_input.h"
 #include "platform/runtime_error.h"
-#include "platform/utf8.h"
 #include "test_form.h"
 
 namespace nvrandom::forms_test {
 namespace {
-
-struct ChangeCase {
-  const char* what;
-  std::function<void(forms::Control&)> act;
-  std::string text;
-  int changes;
-};
-
-// Change is what the dialogs' cleansing rules hang on: it must fire once per real change of the
-// text, from code as from the keyboard, and never for an assignment that changes nothing (a
-// handler that rewrites its own text would otherwise recurse).
-TEST(ControlEvents, ChangeFiresOnlyForADifferentText) {
-  const ChangeCase cases[] = {
-      {"same text from code", [](forms::Control& c) { c.SetText("AB"); }, "AB", 0},
-      {"different text from code", [](forms::Control& c) { c.SetText("ABC"); }, "ABC", 1},
-      {"typed character", [](forms::Control& c) { forms::user::Type(c, "C"); }, "ABC", 1},
-      {"typing over a selection the character it holds",
-       [](forms::Control& c) {
-         c.SetSelStart(0);
-         c.SetSelLength(1);
-         forms::user::Type(c, "A");
-       },
-       "AB", 0},
-      {"Backspace with the caret at the start",
-       [](forms::Control& c) {
-         c.SetSelStart(0);
-         forms::user::Key(c, 8);
-       },
-       "AB", 0},
-      {"clearing", [](forms::Control& c) { forms::user::ClearText(c); }, "", 1},
-  };
-  for (const ChangeCase& row : cases) {
-    SCOPED_TRACE(row.what);
-    Harness h;
-    h.form->Show();
-    forms::Control& code = h.C("txtCode");
-    code.SetText("AB");
-    int changes = 0;
-    code.events.Change = [&] { ++changes; };
-    row.act(code);
-    EXPECT_EQ(code.Text(), row.text);
-    EXPECT_EQ(changes, row.changes);
-  }
-}
 
 struct ValueStep {
   int16_t set;
@@ -138,25 +92,18 @@ TEST(ControlEvents, ControlArraysAreLookedUpByIndex) {
   }
 }
 
-// SelStart, SelLength and MaxLength count characters: a byte count would split UTF-8 sequences
-// and let a field of accented names hold fewer letters than designed.
-TEST(ControlEvents, TextPositionsCountCharacters) {
+// Binding a handler to a control that does not exist fails at once, naming it: a misspelt name
+// in a dialog's table must not wait to be a crash at the first click.
+TEST(ControlEvents, BindingAHandlerToAMissingControlFailsWithItsName) {
   Harness h;
-  h.form->Show();
-  forms::Control& code = h.C("txtCode");
-  code.SetText("h\xC3\xA9llo");  // "héllo"
-  EXPECT_EQ(code.SelStart(), 5) << "caret after setting the text";
-  code.SetSelStart(1);
-  code.SetSelLength(1);
-  EXPECT_EQ(code.SelText(), "\xC3\xA9");
-  code.SetSelStart(99);
-  EXPECT_EQ(code.SelStart(), 5) << "clipped to the characters";
-  code.SetSelStart(2);
-  forms::user::Type(code, "X");
-  EXPECT_EQ(code.Text(), "h\xC3\xA9Xllo");
-  // A stray byte counts as one character and is never split off a neighbour.
-  EXPECT_EQ(utf8::Length("a\xFF\xC3\xA9"), 3U);
-  EXPECT_EQ(utf8::Mid("a\xFF\xC3\xA9", 2, 1), "\xC3\xA9");
+  EXPECT_NO_THROW(h.form->On("imgHelp", 2).Click = [] {});
+  EXPECT_THROW(h.form->On("imgHelp", 3), forms::BindingError);
+  try {
+    h.form->On("cmdGoo").Click = [] {};
+    FAIL() << "no error for a misspelt control";
+  } catch (const forms::BindingError& e) {
+    EXPECT_NE(std::string(e.what()).find("cmdGoo"), std::string::npos) << e.what();
+  }
 }
 
 }  // namespace

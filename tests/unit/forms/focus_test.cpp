@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/user_input.h"
@@ -21,81 +21,69 @@ void LogFocus(Harness& h, std::vector<std::string>& log, std::initializer_list<c
 
 // The currency and country LostFocus checks ask which control is receiving the focus: the form's
 // ActiveControl must already be the new control while LostFocus runs, and LostFocus must come
-// before GotFocus.
-TEST(Focus, LostFocusSeesTheControlReceivingTheFocus) {
+// before GotFocus. A check that rejects the value sends the focus back: the move under way
+// finishes first, then the focus returns, and nothing recurses.
+TEST(Focus, LostFocusSeesTheNewControlAndMaySendTheFocusBack) {
   Harness h;
   h.form->Show();
   EXPECT_EQ(h.form->ActiveControl(), &h.C("txtName")) << "the first tab stop takes the focus";
   std::vector<std::string> log;
   LogFocus(h, log, {"txtName", "txtCode"});
   const forms::Control* active_during_lost = nullptr;
+  bool send_back = false;
   h.C("txtName").events.LostFocus = [&] {
     log.push_back("Lost txtName");
     active_during_lost = h.form->ActiveControl();
+    if (send_back) h.app.SetFocus(h.C("txtName"));
   };
   EXPECT_TRUE(h.app.SetFocus(h.C("txtCode")));
   EXPECT_EQ(log, (std::vector<std::string>{"Lost txtName", "Got txtCode"}));
   EXPECT_EQ(active_during_lost, &h.C("txtCode"));
-  EXPECT_EQ(h.app.Focused(), &h.C("txtCode"));
-}
-
-// A LostFocus check that rejects the value sends the focus back: the move under way finishes
-// first, then the focus returns, and nothing recurses.
-TEST(Focus, LostFocusCanSendTheFocusBack) {
-  Harness h;
-  h.form->Show();
-  std::vector<std::string> log;
-  LogFocus(h, log, {"txtName", "txtCode"});
-  h.C("txtName").events.LostFocus = [&] {
-    log.push_back("Lost txtName");
-    h.app.SetFocus(h.C("txtName"));
-  };
+  h.app.SetFocus(h.C("txtName"));
+  log.clear();
+  send_back = true;
   h.app.SetFocus(h.C("txtCode"));
   EXPECT_EQ(log, (std::vector<std::string>{"Lost txtName", "Got txtCode", "Lost txtCode",
                                            "Got txtName"}));
   EXPECT_EQ(h.app.Focused(), &h.C("txtName"));
 }
 
+// What takes a control out of reach: `name` (the control or a container) hidden or disabled.
+struct Removal {
+  const char* what;
+  const char* name;
+  bool hide;
+};
+void Remove(Harness& h, const Removal& r) {
+  if (r.hide) {
+    h.C(r.name).SetVisible(false);
+  } else {
+    h.C(r.name).SetEnabled(false);
+  }
+}
+
 // A control is available only when its form is shown and it and every container are visible and
 // enabled. A request for any other control is refused quietly: the focus stays, no LostFocus
 // runs, the observer hears of it (the transcript), and nothing is raised.
 TEST(Focus, RequestsForUnavailableControlsAreRefused) {
-  struct Case {
-    const char* what;
-    std::function<forms::Control&(Harness&)> target;
+  const Removal removals[] = {
+      {"hidden control", "txtCode", true},
+      {"disabled control", "txtCode", false},
+      {"inside a disabled frame", "fraInner", false},
+      {"inside a frame inside a hidden frame", "fraOther", true},
+      {"on a form that is loaded but not shown", nullptr, false},
   };
-  const Case cases[] = {
-      {"hidden control",
-       [](Harness& h) -> forms::Control& {
-         h.C("txtCode").SetVisible(false);
-         return h.C("txtCode");
-       }},
-      {"disabled control",
-       [](Harness& h) -> forms::Control& {
-         h.C("txtCode").SetEnabled(false);
-         return h.C("txtCode");
-       }},
-      {"inside a disabled frame",
-       [](Harness& h) -> forms::Control& {
-         h.C("fraOther").SetEnabled(false);
-         return h.C("txtInner");
-       }},
-      {"inside a frame inside a hidden frame",
-       [](Harness& h) -> forms::Control& {
-         h.C("fraOther").SetVisible(false);
-         return h.C("txtInner");
-       }},
-      {"on a form that is loaded but not shown",
-       [](Harness& h) -> forms::Control& { return h.child->Ctl("txtCode"); }},
-  };
-  for (const Case& row : cases) {
+  for (const Removal& row : removals) {
     SCOPED_TRACE(row.what);
     Harness h;
     h.form->Show();
     forms::Control& name = h.C("txtName");
     int lost = 0;
     name.events.LostFocus = [&] { ++lost; };
-    forms::Control& target = row.target(h);
+    forms::Control& target = row.name == nullptr                  ? h.child->Ctl("txtCode")
+                             : std::string(row.name) == "txtCode" ? h.C("txtCode")
+                                                                  : h.C("txtInner");
+    if (row.name != nullptr) Remove(h, row);
     bool moved = true;
     EXPECT_NO_THROW(moved = h.app.SetFocus(target));
     EXPECT_FALSE(moved);
@@ -116,6 +104,43 @@ TEST(Focus, RequestsWhileLoadingAreRefused) {
   EXPECT_FALSE(moved);
   EXPECT_EQ(h.observer.refused, std::vector<std::string>{"txtCode"});
   EXPECT_EQ(h.app.Focused(), &h.C("txtName"));
+}
+
+// The focused control, hidden or disabled itself or through a container, passes the focus on in
+// tab order, and sent keys reach the new control; with no control left, nothing has the focus and
+// the keys go nowhere. Another control going away leaves the focus where it is.
+TEST(Focus, FocusLeavesAControlThatGoesAway) {
+  const std::pair<Removal, const char*> cases[] = {
+      {{"hidden", "txtCode", true}, "chkFlag"},
+      {{"disabled", "txtCode", false}, "chkFlag"},
+      {{"frame hidden", "fraMain", true}, "txtInner"},
+      {{"frame disabled", "fraMain", false}, "txtInner"},
+      {{"everything disabled", nullptr, false}, ""},
+      {{"another control hidden", "txtName", true}, "txtCode"},
+  };
+  for (const auto& [removal, focused_after] : cases) {
+    SCOPED_TRACE(removal.what);
+    Harness h;
+    h.form->Show();
+    forms::Control& code = h.C("txtCode");
+    forms::user::Focus(code);
+    int lost = 0;
+    code.events.LostFocus = [&] { ++lost; };
+    if (removal.name != nullptr) {
+      Remove(h, removal);
+    } else {
+      for (const auto& c : h.form->Controls()) c->SetEnabled(false);
+    }
+    h.app.SendKeys("z");
+    const forms::Control* now = h.form->ActiveControl();
+    EXPECT_EQ(now != nullptr ? now->FullName() : std::string(), focused_after);
+    const bool kept = now == &code;
+    EXPECT_EQ(lost, kept ? 0 : 1);
+    EXPECT_EQ(code.Text(), kept ? "z" : "") << "a key reached a control that went away";
+    if (now != nullptr && now->FullName() == "txtInner") {
+      EXPECT_EQ(now->Text(), "z");
+    }
+  }
 }
 
 // Disabling or hiding a frame takes its children out of reach without touching their own

@@ -1,12 +1,11 @@
-// What a view mirrors: every change of a property is one notification naming it, lifecycle
-// stages are told apart, and observers may come and go while being notified.
+// What a view mirrors: every change of a property is one notification naming it, and observers
+// may come and go while being notified. The lifecycle stages are in lifecycle_test.cpp.
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
 #include <vector>
 
-#include "forms/user_input.h"
 #include "platform/runtime_error.h"
 #include "test_form.h"
 
@@ -21,9 +20,6 @@ class Mirror final : public forms::FormObserver {
   }
   void FormChanged(forms::Form& f, forms::Property p) override {
     log.push_back(f.Name() + "." + std::string(forms::PropertyName(p)));
-  }
-  void FormLifecycle(forms::Form& f, forms::FormEvent e) override {
-    log.push_back(f.Name() + " " + std::string(forms::FormEventName(e)));
   }
   std::vector<std::string> log;
   std::function<void()> on_change;
@@ -89,28 +85,6 @@ TEST(ModelNotifications, PropertiesByNameFollowTheControlsKind) {
   EXPECT_EQ(h.C("txtCode").MaxLength(), 3);
   h.form->SetProperty("FontName", std::string("Tahoma"));
   EXPECT_EQ(std::get<std::string>(h.form->GetProperty("fontname")), "Tahoma");
-}
-
-TEST(ModelNotifications, LifecycleStagesAreToldApart) {
-  Harness h;
-  Mirror mirror;
-  h.app.AddObserver(&mirror);
-  // The test form is shown over the modal child, so the child's unload activates nothing.
-  h.driver.script = [&](forms::Form&) { h.form->Show(); };
-  h.child->Show(true);
-  h.form->Hide();
-  h.form->Unload();
-  const std::vector<std::string> want = {
-      "frmChild loaded",   "frmChild shown modal",   "frmChild activated",
-      "frmTest loaded",    "frmTest shown embedded", "frmTest activated",
-      "frmChild unloaded", "frmTest hidden",         "frmTest unloaded",
-  };
-  std::vector<std::string> lifecycle;
-  for (const std::string& line : mirror.log) {
-    if (line.find('.') == std::string::npos) lifecycle.push_back(line);
-  }
-  EXPECT_EQ(lifecycle, want);
-  h.app.RemoveObserver(&mirror);
 }
 
 // An observer that removes another, or adds one, while being told of a change: the removed one

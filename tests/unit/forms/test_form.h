@@ -43,9 +43,10 @@ inline constexpr std::array<ControlDesign, 16> kControls = {{
     {.kind = K::kDataList, .name = "dlCountry", .tab_index = 9},
 }};
 
-inline constexpr forms::FormDesign kPlainForm{"frmTest", "Test", 4800, 3600, false};
-inline constexpr forms::FormDesign kPreviewForm{"frmTest", "Test", 4800, 3600, true};
-inline constexpr forms::FormDesign kChildForm{"frmChild", "Child", 3000, 2000, false};
+inline constexpr forms::FormDesign kPlainForm{.name = "frmTest", .caption = "Test"};
+inline constexpr forms::FormDesign kPreviewForm{
+    .name = "frmTest", .caption = "Test", .key_preview = true};
+inline constexpr forms::FormDesign kChildForm{.name = "frmChild", .caption = "Child"};
 
 // A form whose own events are hooks, counted and logged in the order they ran.
 class TestForm final : public forms::Form {
@@ -57,10 +58,7 @@ class TestForm final : public forms::Form {
     ++loads;
     if (on_load) on_load();
   }
-  void Form_Activate() override {
-    ++activations;
-    if (on_activate) on_activate();
-  }
+  void Form_Activate() override { ++activations; }
   void Form_QueryUnload(int16_t& cancel, int16_t unload_mode) override {
     log.push_back("QueryUnload " + std::to_string(unload_mode));
     if (on_query_unload) on_query_unload(cancel, unload_mode);
@@ -69,9 +67,8 @@ class TestForm final : public forms::Form {
     log.push_back("Unload");
     if (on_unload) on_unload(cancel);
   }
-  void Form_KeyDown(int16_t& key_code, int16_t& shift) override {
+  void Form_KeyDown(int16_t& key_code, int16_t&) override {
     log.push_back("Form_KeyDown " + std::to_string(key_code));
-    if (on_key_down) on_key_down(key_code, shift);
   }
   void Form_KeyPress(int16_t& key_ascii) override {
     log.push_back("Form_KeyPress " + std::to_string(key_ascii));
@@ -82,19 +79,22 @@ class TestForm final : public forms::Form {
   int activations = 0;
   std::vector<std::string> log;
   std::function<void()> on_load;
-  std::function<void()> on_activate;
   std::function<void(int16_t&, int16_t)> on_query_unload;
   std::function<void(int16_t&)> on_unload;
-  std::function<void(int16_t&, int16_t&)> on_key_down;
   std::function<void(int16_t&)> on_key_press;
 };
 
 using testing::ScriptedDriver;
 
+// Records refused focus requests and the forms' lifecycle stages.
 class RecordingObserver final : public forms::FormObserver {
  public:
   void FocusRefused(forms::Control& control) override { refused.push_back(control.FullName()); }
+  void FormLifecycle(forms::Form& f, forms::FormEvent e) override {
+    lifecycle.push_back(f.Name() + " " + std::string(forms::FormEventName(e)));
+  }
   std::vector<std::string> refused;
+  std::vector<std::string> lifecycle;
 };
 
 // An application with a test form, a second one to open over it, a scripted modal driver and an

@@ -13,73 +13,53 @@
 namespace nvrandom::scenario {
 namespace {
 
-struct RunCase {
-  const char* name;
-  const char* script;
-  int exit_code;
-  const char* report;  // a text the output must hold ("" for none)
-};
-
-class ScenarioRunnerTest : public ::testing::TestWithParam<RunCase> {
- protected:
-  static std::string WriteScript(const std::string& name, const std::string& text) {
-    const auto file = std::filesystem::temp_directory_path() / (name + ".scn");
-    std::ofstream(file) << text;
-    return file.string();
+// Each script's exit code, and the report it must give with its file and line: a failed
+// expectation names what was found and the file goes on; a malformed line stops it.
+TEST(ScenarioRunner, ExitCodeAndReport) {
+  struct Case {
+    const char* name;
+    const char* script;
+    int exit_code;
+    const char* report;
+  };
+  const Case cases[] = {
+      // A failed expectation names its line and what was found; the file goes on.
+      {"fail", "let PayeeName \"A\"\nexpect prop PayeeName \"B\"\nexpect prop X 1\n", 1,
+       ":2: expected PayeeName = \"B\", got \"A\""},
+      // An unknown statement is malformed: exit 2.
+      {"malformed", "let PayeeName \"A\"\nfrobnicate\n", 2, ":2: unknown statement"},
+      // A statement short of words, and an unclosed quote, are malformed too.
+      {"short", "new\nlet PayeeName\n", 2, ":2: 'let' needs more words"},
+      {"quote", "let PayeeName \"A\n", 2, ":1: a quoted word is not closed"},
+      // A person statement with no dialog open fails without stopping the file.
+      {"no_dialog", "click cmd_ok\nexpect prop PayeeName \"\"\n", 1, ":1: cmd_ok is not available"},
+      // A hidden control cannot be typed into.
+      {"hidden", "show remote\ntype ran_Inter_payee_phone \"1\"\nunload\n", 1,
+       ":2: ran_Inter_payee_phone is not available"},
+      // A dialog left open at the end is closed by code and reported.
+      {"left_open", "show remote\n", 1, ":1: frmRandomInfo is still open"},
+      // A modal dialog the script never closes is reported too, and the run ends.
+      {"modal_open", "show modal\n", 1, ":1: frmRandomInfo is still open"},
+      // A host error that the script does not expect is a failure at its own line.
+      {"unexpected_error", "let FormStyle \"x\"\nlet PayeeName \"A\"\n", 1,
+       ":1: run-time error 13"},
+      // The wrong error number fails.
+      {"wrong_error", "get DLLPath\nexpect error 13\n", 1, ":2: expected error 13, got 451"},
+      // Message boxes are matched oldest first; none left over when none was shown.
+      {"nomsg", "expect nomsg\nexpect msg \"x\"\n", 1, ":2: expected message box \"x\", got none"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    const auto file = (std::filesystem::temp_directory_path() /
+                       ("nvrandom-runner-" + std::string(c.name) + ".scn"))
+                          .string();
+    std::ofstream(file) << c.script;
+    std::ostringstream out;
+    EXPECT_EQ(RunScenarioFiles({file}, RunOptions{}, out), c.exit_code) << out.str();
+    EXPECT_NE(out.str().find(file + c.report), std::string::npos) << out.str();
+    std::filesystem::remove(file);
   }
-};
-
-TEST_P(ScenarioRunnerTest, ExitCodeAndReport) {
-  const RunCase& c = GetParam();
-  const std::string file = WriteScript(std::string("nvrandom-runner-") + c.name, c.script);
-  std::ostringstream out;
-  const int code = RunScenarioFiles({file}, RunOptions{}, out);
-  EXPECT_EQ(code, c.exit_code) << out.str();
-  const std::string report = std::string(c.report);
-  if (!report.empty()) {
-    EXPECT_NE(out.str().find(file + report), std::string::npos) << out.str();
-  }
-  std::filesystem::remove(file);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Scripts, ScenarioRunnerTest,
-    ::testing::Values(
-        // Every expectation holds.
-        RunCase{"pass", "let PayeeName \"A\"\nexpect prop PayeeName \"A\"\n", 0, ""},
-        // A failed expectation names its line and what was found; the file goes on.
-        RunCase{"fail", "let PayeeName \"A\"\nexpect prop PayeeName \"B\"\nexpect prop X 1\n", 1,
-                ":2: expected PayeeName = \"B\", got \"A\""},
-        // An unknown statement is malformed: exit 2.
-        RunCase{"malformed", "let PayeeName \"A\"\nfrobnicate\n", 2, ":2: unknown statement"},
-        // An unclosed quote is malformed too.
-        RunCase{"quote", "let PayeeName \"A\n", 2, ":1: a quoted word is not closed"},
-        // A person statement with no dialog open fails without stopping the file.
-        RunCase{"no_dialog", "click cmd_ok\nexpect prop PayeeName \"\"\n", 1,
-                ":1: cmd_ok is not available"},
-        // A hidden control cannot be typed into.
-        RunCase{"hidden", "show remote\ntype ran_Inter_payee_phone \"1\"\nunload\n", 1,
-                ":2: ran_Inter_payee_phone is not available"},
-        // A dialog left open at the end is closed by code and reported.
-        RunCase{"left_open", "show remote\n", 1, ":1: frmRandomInfo is still open"},
-        // A modal dialog the script never closes is reported too, and the run ends.
-        RunCase{"modal_open", "show modal\n", 1, ":1: frmRandomInfo is still open"},
-        // A host error that the script does not expect is a failure at its own line.
-        RunCase{"unexpected_error", "let FormStyle \"x\"\nlet PayeeName \"A\"\n", 1,
-                ":1: run-time error 13"},
-        // Expecting an error that did not happen fails.
-        RunCase{"no_error", "let FormStyle 1\nexpect error 13\n", 1,
-                ":2: expected error 13, got none"},
-        // The wrong error number fails.
-        RunCase{"wrong_error", "get DLLPath\nexpect error 13\n", 1,
-                ":2: expected error 13, got 451"},
-        // Files are written below the root, their folders made as needed.
-        RunCase{"file", "file \"a/b/c.txt\" \"x\\ty\"\nexpect file \"a/b/c.txt\" \"x\\ty\"\n", 0,
-                ""},
-        // Message boxes are matched oldest first; none left over when none was shown.
-        RunCase{"nomsg", "expect nomsg\nexpect msg \"x\"\n", 1,
-                ":2: expected message box \"x\", got none"}),
-    [](const ::testing::TestParamInfo<RunCase>& info) { return std::string(info.param.name); });
 
 // Files run in order, each on a fresh record: what one sets, the next does not see.
 TEST(ScenarioRunner, EachFileHasItsOwnRecord) {

@@ -14,79 +14,48 @@
 namespace nvrandom {
 namespace {
 
-forms::ControlDesign ComboDesign() {
-  forms::ControlDesign design;
-  design.kind = forms::ControlKind::kComboBox;
-  design.name = "cmbProvince";
-  return design;
+constexpr std::array<forms::ControlDesign, 1> kControls = {
+    {{.kind = forms::ControlKind::kComboBox, .name = "cmbProvince"}}};
+constexpr forms::FormDesign kDesign{.name = "frmTest", .caption = "Test"};
+
+// The first entry beginning with the text, ignoring case, replaces it in the entry's spelling and
+// the completed part stands selected (in characters); with no such entry nothing changes; an
+// empty list's one-past-the-end entry reads as empty and selects no row.
+TEST(ComboBoxAutoComplete, CompletesWithTheFirstEntryBeginningWithTheText) {
+  struct Row {
+    std::vector<std::string> list;
+    std::string typed, text;
+    int list_index, sel_start, sel_length;
+  };
+  const std::string quebec =
+      "Qu\xC3\xA9"
+      "bec";
+  const Row rows[] = {
+      {{"Alberta", "Ontario", "Onslow"}, "on", "Ontario", 1, 2, 5},
+      {{"Alberta", "Ontario"}, "ONT", "Ontario", 1, 3, 4},
+      {{"Ontario"}, "ontario", "Ontario", 0, 7, 0},
+      {{"Alberta", "Ontario"}, "x", "x", -1, 1, 0},
+      {{"Alberta", "Ontario"}, "", "Alberta", 0, 0, 7},
+      {{}, "", "", -1, 0, 0},
+      {{quebec}, "qu", quebec, 0, 2, 4},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.typed);
+    testing::Host h;
+    auto form = std::make_shared<forms::Form>(h.ctx.forms(), kDesign, kControls);
+    forms::Control& combo = form->Ctl("cmbProvince");
+    for (const std::string& item : row.list) combo.AddItem(item);
+    combo.SetText(row.typed);
+    int changes = 0;
+    combo.events.Change = [&] { ++changes; };
+    Random(h.ctx).ComboBoxAutoComplete(combo);
+    EXPECT_EQ(combo.Text(), row.text);
+    EXPECT_EQ(combo.ListIndex(), row.list_index);
+    EXPECT_EQ(combo.SelStart(), row.sel_start);
+    EXPECT_EQ(combo.SelLength(), row.sel_length);
+    EXPECT_EQ(changes, row.text != row.typed ? 1 : 0);
+  }
 }
-
-forms::FormDesign FormDesign() {
-  forms::FormDesign design;
-  design.name = "frmTest";
-  design.caption = "Test";
-  return design;
-}
-
-const std::array<forms::ControlDesign, 1> kControls = {ComboDesign()};
-const forms::FormDesign kDesign = FormDesign();
-
-struct CompletionRow {
-  std::vector<std::string> list;
-  std::string typed;
-  std::string text;  // afterwards
-  int list_index;
-  int sel_start;
-  int sel_length;  // as the control clipped it
-};
-
-class ComboBoxAutoCompleteTest : public ::testing::TestWithParam<CompletionRow> {
- protected:
-  testing::Host h;
-};
-
-TEST_P(ComboBoxAutoCompleteTest, CompletesWithTheFirstEntryBeginningWithTheText) {
-  auto form = std::make_shared<forms::Form>(h.ctx.forms(), kDesign, kControls);
-  forms::Control& combo = form->Ctl("cmbProvince");
-  for (const std::string& item : GetParam().list) combo.AddItem(item);
-  combo.SetText(GetParam().typed);
-  int changes = 0;
-  combo.events.Change = [&] { ++changes; };
-
-  Random(h.ctx).ComboBoxAutoComplete(combo);
-
-  EXPECT_EQ(combo.Text(), GetParam().text);
-  EXPECT_EQ(combo.ListIndex(), GetParam().list_index);
-  EXPECT_EQ(combo.SelStart(), GetParam().sel_start);
-  EXPECT_EQ(combo.SelLength(), GetParam().sel_length);
-  EXPECT_EQ(changes, combo.Text() != GetParam().typed ? 1 : 0);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, ComboBoxAutoCompleteTest,
-    ::testing::Values(
-        // the completed part stands selected
-        CompletionRow{{"Alberta", "Ontario", "Onslow"}, "on", "Ontario", 1, 2, 5},
-        // case is ignored; the entry's own spelling is taken
-        CompletionRow{{"Alberta", "Ontario"}, "ONT", "Ontario", 1, 3, 4},
-        // a full match selects nothing further
-        CompletionRow{{"Ontario"}, "ontario", "Ontario", 0, 7, 0},
-        // no entry begins with the text: nothing changes
-        CompletionRow{{"Alberta", "Ontario"}, "x", "x", -1, 1, 0},
-        CompletionRow{{"Ontario"}, "Ontario Province", "Ontario Province", -1, 16, 0},
-        // an empty text matches the first entry
-        CompletionRow{{"Alberta", "Ontario"}, "", "Alberta", 0, 0, 7},
-        // an empty list: the one-past-the-end entry reads as empty and selects no row
-        CompletionRow{{}, "", "", -1, 0, 0},
-        // characters, not bytes, for the selection
-        CompletionRow{{"Qu\xC3\xA9"
-                       "bec"},
-                      "qu",
-                      "Qu\xC3\xA9"
-                      "bec",
-                      0,
-                      2,
-                      4}));
 
 TEST(ComboBoxAutoComplete, AChangeHandlerCallingItAgainSettles) {
   testing::Host h;

@@ -1,19 +1,23 @@
+// What module Random's bank checks tell the account verifier and when they ask it at all. What the
+// built-in verifier answers, and the local rules' messages, are in checks_bank.scn.
 #include <gtest/gtest.h>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "platform/account_verifier.h"
 #include "platform/message_box.h"
 #include "support/recording_verifier.h"
 #include "support/test_host.h"
-#include "validation/account_prechecks.h"
 #include "validation/random.h"
 
 namespace nvrandom {
 namespace {
+
+using Calls = std::vector<std::string>;
 
 class RandomBankTest : public ::testing::Test {
  protected:
@@ -22,29 +26,14 @@ class RandomBankTest : public ::testing::Test {
     // The error log goes to the installation root: keep it out of the working folder.
     h.ctx.store.gstrInstallRoot = folder.path().string() + "/";
   }
-  // The properties every verifier is given first, for the store as the tests leave it.
-  std::vector<std::string> SessionCalls(const std::string& search_id = "") const {
-    return {"put_PlayByPlay false",
-            "put_DataPath",
-            "put_BusinessPIN",
-            search_id.empty() ? "put_BillerSearchID" : "put_BillerSearchID " + search_id,
-            "put_AccessNumber",
-            "put_ProgramVersion",
-            "put_BillerSearchURL",
-            "put_SessionNumber",
-            "put_RequestSourceCode"};
-  }
-  std::vector<std::string> With(std::vector<std::string> calls,
-                                const std::vector<std::string>& more) const {
-    calls.insert(calls.end(), more.begin(), more.end());
-    return calls;
-  }
+  std::string LastCall() const { return script.calls.empty() ? "" : script.calls.back(); }
 
   testing::TempFolder folder;
   testing::Host h;
   testing::VerifierScript script;
 };
 
+// Every verifier is first given the session's values, in this order and form.
 TEST_F(RandomBankTest, VerifierGetsTheSessionValuesInOrder) {
   ComponentStore& store = h.ctx.store;
   store.DLLPath = testing::P("/opt/host/NORVIK/Bin");
@@ -57,6 +46,7 @@ TEST_F(RandomBankTest, VerifierGetsTheSessionValuesInOrder) {
   store.RequestSourceCode = "RS";
   std::string message;
   Random(h.ctx).VerifyAccount("001", "1234567", message);
+<<<<<<< HEAD
   EXPECT_EQ(
       script.calls,
       std::vector<std::string>(
@@ -65,234 +55,175 @@ TEST_F(RandomBankTest, VerifierGetsTheSessionValuesInOrder) {
            "put_ProgramVersion 0705", "put_BillerSearchURL https://search.example.com",
            "put_SessionNumber S42", "put_RequestSourceCode RS", "put_BankIdLength 6",
            "put_AccountLength 30", "VerifyAccount [   001|1234567                       |false]"}));
+=======
+  EXPECT_EQ(script.calls,
+            (Calls{"put_PlayByPlay false", "put_DataPath /opt/host", "put_BusinessPIN PIN9",
+                   "put_BillerSearchID SEARCH1", "put_AccessNumber ACC2", "put_ProgramVersion 0705",
+                   "put_BillerSearchURL https://search.example.com", "put_SessionNumber S42",
+                   "put_RequestSourceCode RS", "put_BankIdLength 6", "put_AccountLength 30",
+                   "VerifyAccount [   001|1234567                       |false]"}));
+>>>>>>> main
 }
 
-struct PrecheckRow {
-  std::string bank_id;
-  std::string account;
-  int16_t result;
-  std::string message;  // handed back
-  bool box;             // the blank message is shown instead
-  bool asked;           // the verifier was created
-};
-
-class VerifyAccountPrecheckTest : public RandomBankTest,
-                                  public ::testing::WithParamInterface<PrecheckRow> {};
-
-TEST_P(VerifyAccountPrecheckTest, LocalRulesComeBeforeTheVerifier) {
-  script.result = 7;  // whatever the verifier says is passed on
-  script.message = "from verifier";
-  std::string message;
-  const PrecheckRow& row = GetParam();
-  EXPECT_EQ(Random(h.ctx).VerifyAccount(row.bank_id, row.account, message), row.result);
-  EXPECT_EQ(message, row.message);
-  EXPECT_EQ(script.created, row.asked ? 1 : 0);
-  if (row.box) {
-    ASSERT_EQ(h.boxes.shown.size(), 1u);
-    EXPECT_EQ(h.boxes.shown[0].text, validation::kBlankInAccountMessage);
-    EXPECT_EQ(h.boxes.shown[0].style, msgbox::kOKOnly | msgbox::kCritical);
-  } else {
-    EXPECT_TRUE(h.boxes.shown.empty());
+// Which calls reach a verifier, and in what form: the local rules refuse without one, the bank id
+// is brought to six characters, a business number is an account of the registry.
+TEST_F(RandomBankTest, OnlyWhatPassesTheLocalRulesReachesTheVerifier) {
+  struct Case {
+    const char* what;
+    std::function<int16_t(Random&)> run;
+    std::string call;  // the verifier's last call; "" when none was created
+  };
+  const auto account = [](const char* bank, const char* acct) {
+    return [bank, acct](Random& r) {
+      std::string m;
+      return r.VerifyAccount(bank, acct, m);
+    };
+  };
+  const auto business = [](const char* number) {
+    return [number](Random& r) { return r.VerifyBusinessNumber(number); };
+  };
+  const std::string pad26(26, ' ');
+  const std::string registry = std::string(kBusinessNumberBankId);
+  const Case cases[] = {
+      {"a blank in the account", account("001", " 12"), ""},
+      {"too short", account("001", ""), ""},
+      {"neither letter nor digit", account("001", "12-34"), ""},
+      {"a blank bank id", account("    ", "1234"), ""},
+      {"upper-case letters and digits", account("001", "AB12"),
+       "VerifyAccount [   001|AB12" + pad26 + "|false]"},
+      // seven characters lose the last before padding; longer ones keep their rightmost six;
+      // untrimmed ids are padded as they are
+      {"seven characters", account(" 0010039 ", "1234"),
+       "VerifyAccount [" + registry + "|1234" + pad26 + "|false]"},
+      {"eight characters", account("12345678", "1234"),
+       "VerifyAccount [345678|1234" + pad26 + "|false]"},
+      {"untrimmed", account("001 ", "1234"), "VerifyAccount [  001 |1234" + pad26 + "|false]"},
+      {"business number", business("987654321xyz"),
+       "VerifyAccount [" + registry + "|987654321RT0001" + std::string(15, ' ') + "|false]"},
+      {"wrong check digit: the verifier decides", business("046454287"),
+       "VerifyAccount [" + registry + "|046454287RT0001" + std::string(15, ' ') + "|false]"},
+      {"made-up business number", business("123456789"), ""},
+      {"repeated digits", business("111111112"), ""},
+      {"all zeros", business("000000000"), ""},
+      {"a leading blank", business(" 046454286"), ""},
+      {"decimal point: the account's character rule", business("1234567.8"), ""},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.what);
+    script = {};
+    Random random(h.ctx);
+    row.run(random);
+    EXPECT_EQ(script.created, row.call.empty() ? 0 : 1);
+    EXPECT_EQ(LastCall(), row.call);
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rows, VerifyAccountPrecheckTest,
-    ::testing::Values(
-        // a blank anywhere is shown at once, before any length rule
-        PrecheckRow{"001", "12 34", 0, "", true, false},
-        PrecheckRow{"001", " 12", 0, "", true, false},
-        // too short
-        PrecheckRow{"001", "AB1", 0, std::string(validation::kShortAccountMessage), false, false},
-        PrecheckRow{"001", "", 0, std::string(validation::kShortAccountMessage), false, false},
-        // lower case is not allowed
-        PrecheckRow{"001", "abc1", 0, std::string(validation::kInvalidAccountCharactersMessage),
-                    false, false},
-        PrecheckRow{"001", "12-34", 0, std::string(validation::kInvalidAccountCharactersMessage),
-                    false, false},
-        // a blank bank id needs no verifier
-        PrecheckRow{"", "1234", 2, "", false, false},
-        PrecheckRow{"    ", "1234", 2, "", false, false},
-        // upper-case letters and digits go to the verifier, whose answer is returned
-        PrecheckRow{"001", "AB12", 7, "from verifier", false, true}));
-
-struct BankIdFormRow {
-  std::string bank_id;
-  std::string passed;  // what the verifier receives
-};
-
-class VerifyAccountBankIdTest : public RandomBankTest,
-                                public ::testing::WithParamInterface<BankIdFormRow> {};
-
-TEST_P(VerifyAccountBankIdTest, BankIdIsBroughtToSixCharacters) {
+// Whatever the verifier answers is passed on; a business number is accepted on any answer but 0,
+// and its refusal shows nothing.
+TEST_F(RandomBankTest, TheVerifiersAnswerIsPassedOn) {
+  script.result = 7;
+  script.message = "from verifier";
   std::string message;
-  Random(h.ctx).VerifyAccount(GetParam().bank_id, "1234", message);
-  ASSERT_FALSE(script.calls.empty());
-  EXPECT_EQ(script.calls.back(),
-            "VerifyAccount [" + GetParam().passed + "|1234" + std::string(26, ' ') + "|false]");
+  EXPECT_EQ(Random(h.ctx).VerifyAccount("001", "AB12", message), 7);
+  EXPECT_EQ(message, "from verifier");
+  EXPECT_EQ(Random(h.ctx).VerifyBusinessNumber("987654321"), kTrue);
+  script.result = 0;
+  EXPECT_EQ(Random(h.ctx).VerifyBusinessNumber("987654321"), kFalse);
+  int16_t length = 0;
+  script.result = 2;
+  script.message.clear();
+  EXPECT_EQ(Random(h.ctx).ValidateBankAccount("003", "12345", "1234567", message, length), 2);
+  EXPECT_EQ(LastCall(), "ValidateBankAccount [003|12345|1234567]");
+  EXPECT_TRUE(h.boxes.shown.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, VerifyAccountBankIdTest,
-                         ::testing::Values(
-                             // seven characters lose the last, before padding
-                             BankIdFormRow{"0010039", "001003"},
-                             BankIdFormRow{" 0010039 ", "001003"}, BankIdFormRow{"001", "   001"},
-                             // longer ones keep their rightmost six
-                             BankIdFormRow{"12345678", "345678"},
-                             // untrimmed ids are padded as they are
-                             BankIdFormRow{"001 ", "  001 "}));
-
-TEST_F(RandomBankTest, ValidateBankIdWithoutIdAsksNobody) {
-  std::string message = "old";
-  int16_t length = -1;
-  EXPECT_EQ(Random(h.ctx).ValidateBankId("   ", message, length), 0);
-  EXPECT_EQ(message, "Invalid bank id");
+// An incomplete bank id or account asks nobody and gives the fixed message and its length.
+TEST_F(RandomBankTest, IncompleteInputAsksNobody) {
+  std::string message;
+  int16_t length = 0;
+  Random random(h.ctx);
+  EXPECT_EQ(random.ValidateBankId("   ", message, length), 0);
   EXPECT_EQ(length, 15);
+  for (const auto& [bank, transit, account] :
+       {std::tuple{"", "12345", "1234567"}, {"001", " ", "1234567"}, {"001", "12345", ""}}) {
+    EXPECT_EQ(random.ValidateBankAccount(bank, transit, account, message, length), 0);
+    EXPECT_EQ(message, "Invalid bank account");
+    EXPECT_EQ(length, 20);
+  }
+  // A blank in the account is shown at once, as a critical OK box (its text: checks_bank.scn).
+  EXPECT_EQ(random.VerifyAccount("001", "12 34", message), 0);
+  ASSERT_EQ(h.boxes.shown.size(), 1u);
+  EXPECT_EQ(h.boxes.shown[0].style, msgbox::kOKOnly | msgbox::kCritical);
   EXPECT_EQ(script.created, 0);
 }
 
+// A doubtful bank id keeps the old search id; a valid one takes the verifier's new one.
 TEST_F(RandomBankTest, ValidateBankIdTakesANewSearchIdOnlyWhenValid) {
   h.ctx.store.BillerSearchNorvikID = "OLD";
   script.result = 3;
   script.message = "doubtful";
-  std::string message = "old";
+  std::string message;
   int16_t length = 0;
   EXPECT_EQ(Random(h.ctx).ValidateBankId("123", message, length), 3);
   EXPECT_EQ(message, "doubtful");
   EXPECT_EQ(length, 8);
   EXPECT_EQ(h.ctx.store.BillerSearchNorvikID, "OLD");
-  EXPECT_EQ(script.calls, With(SessionCalls("OLD"), {"ValidateBankId [123]"}));
-
-  script.calls.clear();
+  EXPECT_EQ(LastCall(), "ValidateBankId [123]");
   script.result = 1;
-  script.message.clear();
   EXPECT_EQ(Random(h.ctx).ValidateBankId("001", message, length), 1);
-  EXPECT_EQ(message, "");
   EXPECT_EQ(h.ctx.store.BillerSearchNorvikID, "NEW-ID");
-  EXPECT_EQ(script.calls,
-            With(SessionCalls("OLD"), {"ValidateBankId [001]", "get_BillerSearchID"}));
+  EXPECT_EQ(LastCall(), "get_BillerSearchID");
 }
 
-TEST_F(RandomBankTest, ValidateBankAccountNeedsAllThreeParts) {
-  const std::vector<std::array<std::string, 3>> incomplete = {
-      {"", "12345", "1234567"}, {"001", " ", "1234567"}, {"001", "12345", ""}};
-  for (const auto& [bank, transit, account] : incomplete) {
-    std::string message;
-    int16_t length = 0;
-    EXPECT_EQ(Random(h.ctx).ValidateBankAccount(bank, transit, account, message, length), 0);
-    EXPECT_EQ(message, "Invalid bank account");
-    EXPECT_EQ(length, 20);
+// A verifier that cannot be created, or none at all, is reported (box and error log) by the
+// procedure that asked for it, which gives 0; the business number check reaches it through the
+// account check.
+TEST_F(RandomBankTest, AVerifierThatCannotBeCreatedIsReported) {
+  struct Case {
+    const char* procedure;
+    std::function<int16_t(Random&)> run;
+  };
+  const Case cases[] = {
+      {"Random.VerifyAccount",
+       [](Random& r) {
+         std::string m;
+         return r.VerifyAccount("001", "1234567", m);
+       }},
+      {"Random.ValidateBankId",
+       [](Random& r) {
+         std::string m;
+         int16_t n = 0;
+         return r.ValidateBankId("001", m, n);
+       }},
+      {"Random.ValidateBankAccount",
+       [](Random& r) {
+         std::string m;
+         int16_t n = 0;
+         return r.ValidateBankAccount("001", "12345", "1234567", m, n);
+       }},
+      {"Random.VerifyAccount", [](Random& r) { return r.VerifyBusinessNumber("046454286"); }},
+  };
+  for (const bool installed : {true, false}) {
+    for (const Case& row : cases) {
+      SCOPED_TRACE(std::string(row.procedure) + (installed ? "" : ", no service"));
+      h.boxes.shown.clear();
+      h.ctx.services.verifiers = installed ? std::make_shared<testing::MissingVerifierFactory>()
+                                           : std::shared_ptr<testing::MissingVerifierFactory>();
+      Random random(h.ctx);
+      EXPECT_EQ(row.run(random), 0);
+      ASSERT_EQ(h.boxes.shown.size(), 1u);
+      EXPECT_EQ(h.boxes.shown[0].text,
+                "The following error: 'ActiveX component can't create object (Error 429)' "
+                "occurred in procedure '" +
+                    std::string(row.procedure) + "'.");
+      EXPECT_EQ(h.boxes.shown[0].style & msgbox::kIconMask, msgbox::kCritical);
+      EXPECT_NE(testing::ReadFile(folder.path() / "error.log")
+                    .find(",429,\"ActiveX component can't create object\",\"" +
+                          std::string(row.procedure) + "\""),
+                std::string::npos);
+    }
   }
-  EXPECT_EQ(script.created, 0);
 }
-
-TEST_F(RandomBankTest, ValidateBankAccountPassesTheVerifiersAnswer) {
-  script.result = 2;
-  std::string message = "old";
-  int16_t length = 0;
-  EXPECT_EQ(Random(h.ctx).ValidateBankAccount("003", "12345", "1234567", message, length), 2);
-  EXPECT_EQ(message, "");
-  EXPECT_EQ(script.calls, With(SessionCalls(), {"ValidateBankAccount [003|12345|1234567]"}));
-}
-
-// Each delegating check, run against a verifier that cannot be created.
-struct FailureRow {
-  std::string proc_name;
-  std::function<int16_t(Random&)> run;
-};
-
-class VerifierFailureTest : public RandomBankTest,
-                            public ::testing::WithParamInterface<FailureRow> {};
-
-TEST_P(VerifierFailureTest, IsReportedAndGivesZero) {
-  h.ctx.services.verifiers = std::make_shared<testing::MissingVerifierFactory>();
-  Random random(h.ctx);
-  EXPECT_EQ(GetParam().run(random), 0);
-  ASSERT_EQ(h.boxes.shown.size(), 1u);
-  EXPECT_EQ(h.boxes.shown[0].text,
-            "The following error: 'ActiveX component can't create object (Error 429)' occurred "
-            "in procedure '" +
-                GetParam().proc_name + "'.");
-  EXPECT_EQ(h.boxes.shown[0].style & msgbox::kIconMask, msgbox::kCritical);
-  const std::string log = testing::ReadFile(folder.path() / "error.log");
-  EXPECT_NE(
-      log.find(",429,\"ActiveX component can't create object\",\"" + GetParam().proc_name + "\""),
-      std::string::npos)
-      << log;
-}
-
-INSTANTIATE_TEST_SUITE_P(Procedures, VerifierFailureTest,
-                         ::testing::Values(FailureRow{"Random.VerifyAccount",
-                                                      [](Random& r) {
-                                                        std::string m;
-                                                        return r.VerifyAccount("001", "1234567", m);
-                                                      }},
-                                           FailureRow{"Random.ValidateBankId",
-                                                      [](Random& r) {
-                                                        std::string m;
-                                                        int16_t n = 0;
-                                                        return r.ValidateBankId("001", m, n);
-                                                      }},
-                                           FailureRow{"Random.ValidateBankAccount",
-                                                      [](Random& r) {
-                                                        std::string m;
-                                                        int16_t n = 0;
-                                                        return r.ValidateBankAccount(
-                                                            "001", "12345", "1234567", m, n);
-                                                      }},
-                                           // the business number check reaches the verifier through
-                                           // the account check, which reports the failure itself
-                                           FailureRow{"Random.VerifyAccount", [](Random& r) {
-                                                        return r.VerifyBusinessNumber("046454286");
-                                                      }}));
-
-TEST_F(RandomBankTest, NoVerifierServiceIsTheSameAsOneThatCannotBeCreated) {
-  h.ctx.services.verifiers.reset();
-  std::string message;
-  int16_t length = 0;
-  EXPECT_EQ(Random(h.ctx).ValidateBankId("001", message, length), 0);
-  ASSERT_EQ(h.boxes.shown.size(), 1u);
-  EXPECT_NE(h.boxes.shown[0].text.find("(Error 429)"), std::string::npos);
-}
-
-struct RoutingRow {
-  std::string number;
-  bool us_mode;
-  int16_t expected;
-};
-
-class RoutingNumberTest : public ::testing::TestWithParam<RoutingRow> {
- protected:
-  testing::Host h;
-};
-
-TEST_P(RoutingNumberTest, PrefixInUsModeThenLengthAndChecksum) {
-  h.ctx.store.WhatKindOfBiller = GetParam().us_mode ? "U" : " ";
-  EXPECT_EQ(Random(h.ctx).ValidateABANumber(GetParam().number), GetParam().expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, RoutingNumberTest,
-    ::testing::Values(RoutingRow{"021000021", true, kTrue}, RoutingRow{"021000021", false, kTrue},
-                      RoutingRow{"322271627", true, kTrue},
-                      // 13 is no Federal Reserve prefix, though the checksum passes
-                      RoutingRow{"131000021", true, kFalse}, RoutingRow{"131000021", false, kTrue},
-                      // the checksum
-                      RoutingRow{"021000022", false, kFalse},
-                      // nine characters exactly, after trimming
-                      RoutingRow{"02100002", false, kFalse},
-                      RoutingRow{"0210000210", false, kFalse},
-                      RoutingRow{" 021000021 ", false, kTrue},
-                      // in US mode the prefix is read before trimming
-                      RoutingRow{" 021000021", true, kFalse},
-                      // a non-digit counts as 0 in the checksum; in US mode it spoils the prefix
-                      RoutingRow{"A21000021", false, kTrue}, RoutingRow{"A21000021", true, kFalse},
-                      // a two-byte character is one character that counts as 0
-                      RoutingRow{"\xC3\xA9"
-                                 "21000021",
-                                 false, kTrue},
-                      RoutingRow{"", false, kFalse}, RoutingRow{"", true, kFalse},
-                      RoutingRow{"0", true, kFalse}));
 
 }  // namespace
 }  // namespace nvrandom

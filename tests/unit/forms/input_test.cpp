@@ -1,0 +1,335 @@
+// The runtime's input path below what a scenario sees: the order of a key's events, handlers that
+// rewrite or refuse keys, editing at the selection within MaxLength, sent keys, what a list choice
+// fires. What a person sees of the biller dialog's keys is in runtime_input.scn and
+// dialog_keys.scn.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include "forms/keystroke.h"
+#include "forms/user_input.h"
+#include "test_form.h"
+
+namespace nvrandom::forms_test {
+namespace {
+
+using Log = std::vector<std::string>;
+using Act = std::function<void(forms::Control&)>;
+
+// Logs every key, change and click event of `c` as "EVENT [code]".
+void LogEvents(forms::Control& c, Log& log) {
+  c.events.KeyDown = [&log](int16_t& k, int16_t&) {
+    log.push_back("KeyDown " + std::to_string(k));
+  };
+  c.events.KeyPress = [&log](int16_t& k) { log.push_back("KeyPress " + std::to_string(k)); };
+  c.events.KeyUp = [&log](int16_t& k, int16_t&) { log.push_back("KeyUp " + std::to_string(k)); };
+  c.events.Change = [&log] { log.push_back("Change"); };
+  c.events.Click = [&log] { log.push_back("Click"); };
+}
+
+Act TypeText(const char* s) {
+  return [s](forms::Control& c) { forms::user::Type(c, s); };
+}
+Act PressKey(int16_t code) {
+  return [code](forms::Control& c) { forms::user::Key(c, code); };
+}
+Act PressKeyDown(int16_t code, int16_t shift) {
+  return [code, shift](forms::Control& c) { forms::user::KeyDown(c, code, shift); };
+}
+
+// One physical key is KeyDown, KeyPress (when it types a character), the edit, KeyUp: never a
+// second KeyDown. txtCode holds "abcd" with "bc" selected; the clipboard holds "P".
+TEST(Input, OnePhysicalKeyFiresEachEventOnce) {
+  struct Case {
+    const char* what;
+    Act press;
+    Log events;
+    const char* text;
+  };
+  const Case cases[] = {
+      {"a letter", PressKey('x'), {"KeyDown 88", "KeyPress 120", "Change", "KeyUp 88"}, "axd"},
+      {"Delete",
+       PressKeyDown(forms::keys::kKeyDelete, 0),
+       {"KeyDown 46", "Change", "KeyUp 46"},
+       "ad"},
+      {"Control+V",
+       PressKeyDown('V', 2),
+       {"KeyDown 86", "KeyPress 22", "Change", "KeyUp 86"},
+       "aPd"},
+      {"the paste character",
+       PressKey(22),
+       {"KeyDown 86", "KeyPress 22", "Change", "KeyUp 86"},
+       "aPd"},
+      {"Backspace", PressKey(8), {"KeyDown 8", "KeyPress 8", "Change", "KeyUp 8"}, "ad"},
+      {"an arrow", PressKeyDown(forms::keys::kKeyLeft, 0), {"KeyDown 37", "KeyUp 37"}, "abcd"},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.what);
+    Harness h;
+    h.form->Show();
+    forms::Control& code = h.C("txtCode");
+    code.SetText("abcd");
+    h.clipboard.SetText("P");
+    forms::user::Select(code, 1, 2);
+    Log log;
+    LogEvents(code, log);
+    row.press(code);
+    EXPECT_EQ(log, row.events);
+    EXPECT_EQ(code.Text(), row.text);
+  }
+}
+
+// The dialogs' key filters rewrite or zero the key in KeyDown and KeyPress: the rewritten key is
+// inserted, a zeroed one stops entirely (a zeroed KeyDown suppresses KeyPress too). The paste
+// guards of the bank fields zero Control+V or Shift+Insert in KeyDown; the e-mail field's filter
+// zeroes the paste character 22 in KeyPress, which Shift+Insert never sends.
+TEST(Input, HandlersMayRewriteOrRefuseTheKey) {
+  struct Case {
+    const char* what;
+    std::function<void(int16_t& code, int16_t& shift)> key_down;
+    std::function<void(int16_t& key)> key_press;
+    Act act;
+    const char* text;
+    int changes;
+  };
+  const auto upper = [](int16_t& k) {
+    if (k >= 'a' && k <= 'z') k = static_cast<int16_t>(k - 32);
+  };
+  const auto no_digits = [](int16_t& k) { k = (k >= '0' && k <= '9') ? 0 : k; };
+  const auto no_q = [](int16_t& k, int16_t&) { k = k == 'Q' ? 0 : k; };
+  const auto paste_guard = [](int16_t& k, int16_t& shift) {
+    if ((k == 86 && shift == 2) || (k == 45 && shift == 1)) k = 0;
+  };
+  const auto paste_filter = [](int16_t& k) { k = k == 22 ? 0 : k; };
+  const Case cases[] = {
+      {"KeyPress upper-cases", nullptr, upper, TypeText("ab1"), "AB1", 3},
+      {"KeyPress discards digits", nullptr, no_digits, TypeText("a1b2"), "ab", 2},
+      {"KeyDown discards Q", no_q, nullptr, TypeText("aqb"), "ab", 2},
+      {"Control+V unguarded", nullptr, nullptr, PressKeyDown(86, 2), "12", 1},
+      {"Control+V guarded in KeyDown", paste_guard, nullptr, PressKeyDown(86, 2), "", 0},
+      {"Control+V filtered in KeyPress", nullptr, paste_filter, PressKeyDown(86, 2), "", 0},
+      {"Shift+Insert guarded in KeyDown", paste_guard, nullptr, PressKeyDown(45, 1), "", 0},
+      {"Shift+Insert passes a KeyPress filter", nullptr, paste_filter, PressKeyDown(45, 1), "12",
+       1},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.what);
+    Harness h;
+    h.form->Show();
+    h.clipboard.SetText("12");
+    forms::Control& code = h.C("txtCode");
+    code.events.KeyDown = row.key_down;
+    code.events.KeyPress = row.key_press;
+    int changes = 0;
+    code.events.Change = [&] { ++changes; };
+    row.act(code);
+    EXPECT_EQ(code.Text(), row.text);
+    EXPECT_EQ(changes, row.changes) << "one Change per insert, none for a refused key";
+  }
+}
+
+// A form with KeyPreview sees each key first (KeyDown, then KeyPress), and what it does to the
+// key is what the control gets; without KeyPreview it sees nothing.
+TEST(Input, KeyPreviewGivesTheFormTheKeyFirst) {
+  Harness h;
+  h.form = h.NewForm(kPreviewForm);
+  h.form->Show();
+  forms::Control& code = h.C("txtCode");
+  LogEvents(code, h.form->log);
+  code.events.KeyUp = nullptr;
+  h.form->on_key_press = [](int16_t& k) { k = k == 'x' ? 'y' : (k == 'z' ? 0 : k); };
+  forms::user::Type(code, "xz");
+  EXPECT_EQ(h.form->log, (Log{"Form_KeyDown 88", "KeyDown 88", "Form_KeyPress 120", "KeyPress 121",
+                              "Change", "Form_KeyDown 90", "KeyDown 90", "Form_KeyPress 122"}));
+  Harness plain;
+  plain.form->Show();
+  forms::user::Type(plain.C("txtCode"), "x");
+  EXPECT_TRUE(plain.form->log.empty()) << "a form without KeyPreview saw the key";
+}
+
+// Editing happens at the selection, within MaxLength (txtName holds 5 characters), counting
+// characters rather than bytes; Change fires only when the text really changes (a handler that
+// rewrites its own text would otherwise recurse).
+TEST(Input, EditingActsOnTheSelectionWithinMaxLength) {
+  struct Case {
+    const char* what;
+    const char* before;
+    int sel_start, sel_length;
+    Act act;
+    const char* after;
+    int caret;
+  };
+  const auto paste = [](const char* s) {
+    return [s](forms::Control& c) { forms::user::Paste(c, s); };
+  };
+  const char* e5 = "\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9";
+  const Case cases[] = {
+      {"typing stops at MaxLength", "", 0, 0, TypeText("abcdefg"), "abcde", 5},
+      {"MaxLength counts characters", "", 0, 0,
+       TypeText("\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9x"), e5, 5},
+      {"pasting is cut to the room left", "abcd", 4, 0, paste("xyz"), "abcdx", 5},
+      {"pasting replaces the selection, then is cut", "abcde", 1, 2, paste("wxyz"), "awxde", 3},
+      {"a full field refuses a key", "abcde", 2, 0, TypeText("z"), "abcde", 2},
+      {"a full field takes a key over a selection", "abcde", 4, 1, TypeText("z"), "abcdz", 5},
+      {"typing over a selection the character it holds", "ab", 0, 1, TypeText("a"), "ab", 1},
+      {"typing inserts after a two-byte character", "h\xC3\xA9l", 2, 0, TypeText("X"),
+       "h\xC3\xA9Xl", 3},
+      {"Backspace at the start does nothing", "abc", 0, 0, PressKey(8), "abc", 0},
+      {"Backspace deletes a whole character", "a\xE2\x82\xAC", 2, 0, PressKey(8), "a", 1},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.what);
+    Harness h;
+    h.form->Show();
+    forms::Control& name = h.C("txtName");
+    name.SetText(row.before);
+    name.SetSelStart(row.sel_start);
+    name.SetSelLength(row.sel_length);
+    int changes = 0;
+    name.events.Change = [&] { ++changes; };
+    row.act(name);
+    EXPECT_EQ(name.Text(), row.after);
+    EXPECT_EQ(name.SelStart(), row.caret);
+    EXPECT_EQ(name.SelLength(), 0);
+    EXPECT_EQ(changes > 0, std::string(row.after) != row.before);
+  }
+  Harness h;
+  forms::Control& name = h.C("txtName");
+  name.SetText("h\xC3\xA9l");
+  EXPECT_EQ(name.SelStart(), 3) << "the caret after setting the text, in characters";
+  int changes = 0;
+  name.events.Change = [&] { ++changes; };
+  name.SetText("h\xC3\xA9l");
+  EXPECT_EQ(changes, 0) << "the same text from code";
+  name.SetSelStart(99);
+  EXPECT_EQ(name.SelStart(), 3) << "clipped to the characters";
+  name.SetSelStart(1);
+  name.SetSelLength(1);
+  EXPECT_EQ(name.SelText(), "\xC3\xA9");
+}
+
+// Keys sent by a handler complete before the next typed key and go to the control that has the
+// focus when they are delivered: a field that moves on when full (by Tab or by SetFocus) gives
+// the rest of the typing to the next field, the same whether typed in one go or key by key.
+TEST(Input, SentKeysCompleteBeforeTheNextTypedKey) {
+  for (const bool key_by_key : {false, true}) {
+    for (const bool by_tab : {false, true}) {
+      SCOPED_TRACE(std::string(key_by_key ? "key by key" : "in one go") + (by_tab ? ", Tab" : ""));
+      Harness h;
+      h.form->Show();
+      forms::Control& name = h.C("txtName");  // MaxLength 5
+      name.events.Change = [&] {
+        if (name.Text().size() != 5) return;
+        if (by_tab) h.app.SendKeys("{TAB}");
+        if (!by_tab) h.app.SetFocus(h.C("txtCode"));
+      };
+      if (key_by_key) {
+        for (const char c : std::string("1234567")) forms::user::Type(*h.app.Focused(), {&c, 1});
+      } else {
+        forms::user::Type(name, "1234567");
+      }
+      EXPECT_EQ(name.Text(), "12345");
+      EXPECT_EQ(h.C("txtCode").Text(), "67");
+    }
+  }
+  // A key sent by a handler that then moves the focus reaches the new control, after the key
+  // being handled (the biller dialog's Enter rule); from code, with no input under way, at once.
+  Harness h;
+  h.form->Show();
+  forms::Control& name = h.C("txtName");
+  forms::Control& code = h.C("txtCode");
+  code.events.KeyPress = [&](int16_t& k) {
+    if (k != 13) return;
+    h.app.SendKeys("9");
+    h.app.SetFocus(name);
+  };
+  forms::user::Key(code, 13);
+  EXPECT_EQ(code.Text(), "");
+  EXPECT_EQ(name.Text(), "9");
+  h.app.SendKeys("{BS}7");
+  EXPECT_EQ(name.Text(), "7");
+}
+
+// A modal dialog runs its own input loop: keys sent before it opened reach it, and keys its own
+// handlers send arrive while it is open, not after the event that opened it has finished.
+TEST(Input, ModalDialogsReceiveSentKeys) {
+  Harness h;
+  h.form->Show();
+  forms::Control& code = h.C("txtCode");
+  code.events.KeyPress = [&](int16_t& k) {
+    if (k != 13) return;
+    h.app.SendKeys("x");
+    h.child->Show(true);
+  };
+  std::string at_open;
+  std::string after_key;
+  h.driver.script = [&](forms::Form& dialog) {
+    forms::Control& field = dialog.Ctl("txtName");
+    at_open = field.Text();
+    field.events.KeyPress = [&](int16_t& k) {
+      if (k == 'q') h.app.SendKeys("z");
+    };
+    forms::user::Key(field, 'q');
+    after_key = field.Text();
+    dialog.Unload();
+  };
+  forms::user::Key(code, 13);
+  EXPECT_EQ(at_open, "x");
+  EXPECT_EQ(after_key, "xqz");
+}
+
+TEST(Input, SendKeysNotation) {
+  const std::vector<char32_t> expected = {'a', 13, 13, 9, 8, 8, '~', '{', 0xE9};
+  EXPECT_EQ(forms::DecodeKeys("a~{ENTER}{TAB}{BS}{BACKSPACE}{~}{{}\xC3\xA9"), expected);
+}
+
+TEST(Input, AMaskedBoxCopiesNothing) {
+  for (const int16_t key : {forms::keys::kKeyC, forms::keys::kKeyX}) {
+    Harness h;
+    h.form->Show();
+    forms::Control& code = h.C("txtCode");
+    code.SetText("secret");
+    code.SetPasswordChar("*");
+    h.clipboard.SetText("before");
+    forms::user::Select(code, 0, 6);
+    forms::user::KeyDown(code, key, forms::keys::kCtrlMask);
+    EXPECT_EQ(h.clipboard.Text(), "before") << key;
+    EXPECT_EQ(code.Text(), "secret") << key;
+  }
+}
+
+// Typed text selects the row whose shown column it names, ignoring case, or none; a plain combo
+// box's choice fires Click alone, a data list's Change then Click.
+TEST(Input, ListsFollowTypingAndChoices) {
+  for (const auto& [typed, row, bound] : {std::tuple{"france", 1, "FR"}, {"Can", -1, ""}}) {
+    Harness h;
+    h.form->Show();
+    forms::Control& list = h.C("dlCountry");
+    list.SetBoundColumn(1);
+    list.SetRows({{"Canada", "CA"}, {"France", "FR"}});
+    forms::user::Pick(list, "CA");
+    forms::user::ClearText(list);
+    forms::user::Type(list, typed);
+    EXPECT_EQ(list.ListIndex(), row) << typed;
+    EXPECT_EQ(list.BoundText(), bound) << typed;
+  }
+  for (const auto& [name, events] :
+       {std::pair{"cboKind", Log{"Click"}}, {"dlCountry", Log{"Change", "Click"}}}) {
+    Harness h;
+    h.form->Show();
+    forms::Control& list = h.C(name);
+    list.SetRows({{"One"}, {"Two"}});
+    Log log;
+    LogEvents(list, log);
+    forms::user::Pick(list, "Two");
+    EXPECT_EQ(log, events) << name;
+    EXPECT_EQ(list.Text(), "Two") << name;
+  }
+}
+
+}  // namespace
+}  // namespace nvrandom::forms_test
