@@ -8,13 +8,9 @@
 #include "platform/general_date.h"
 #include "platform/memory_clipboard.h"
 #include "platform/path.h"
-<<<<<<< HEAD
-#include "platform/regex.h"
-=======
 #include "platform/posix/posix_fonts.h"
 #include "platform/posix/run_program.h"
-#include "platform/re2_regex.h"
->>>>>>> main
+#include "platform/regex.h"
 
 namespace nvrandom {
 

@@ -3,6 +3,7 @@
 #include <windows.h>
 // windows.h first: shellapi.h uses its types.
 #include <shellapi.h>
+#include <shlobj.h>
 
 #include <cstring>
 #include <ctime>
@@ -134,6 +135,26 @@ class Win32Directories final : public DirectoryService {
   }
 };
 
+// Font files copied with the wide API (non-ASCII paths) and added for this session with
+// AddFontResourceW.
+class Win32Fonts final : public FontService {
+ public:
+  bool CopyFontFile(const std::string& source, const std::string& target) override {
+    const std::wstring wide_target = wide::FromUtf8(target);
+    const size_t folder_end = wide_target.find_last_of(L"\\/");
+    if (folder_end != std::wstring::npos && folder_end > 0) {
+      ::SHCreateDirectoryExW(nullptr, wide_target.substr(0, folder_end).c_str(), nullptr);
+    }
+    return ::CopyFileW(wide::FromUtf8(source).c_str(), wide_target.c_str(), FALSE) != 0;
+  }
+  int AddFontResource(const std::string& font_file) override {
+    const int added = ::AddFontResourceW(wide::FromUtf8(font_file).c_str());
+    if (added > 0)
+      ::SendMessageTimeoutW(HWND_BROADCAST, WM_FONTCHANGE, 0, 0, SMTO_ABORTIFHUNG, 1000, nullptr);
+    return added;
+  }
+};
+
 class LocalClock final : public Clock {
  public:
   std::string Now() override {
@@ -159,6 +180,7 @@ Services MakeWin32Services() {
   s.help = std::make_unique<HtmlHelpViewer>();
   s.clipboard = std::make_unique<Win32Clipboard>();
   s.directories = std::make_unique<Win32Directories>();
+  s.fonts = std::make_unique<Win32Fonts>();
   s.clock = std::make_unique<LocalClock>();
   s.regex = MakeSystemRegex();
   return s;

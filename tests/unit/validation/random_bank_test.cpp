@@ -46,23 +46,13 @@ TEST_F(RandomBankTest, VerifierGetsTheSessionValuesInOrder) {
   store.RequestSourceCode = "RS";
   std::string message;
   Random(h.ctx).VerifyAccount("001", "1234567", message);
-<<<<<<< HEAD
-  EXPECT_EQ(
-      script.calls,
-      std::vector<std::string>(
-          {"put_PlayByPlay false", "put_DataPath " + testing::P("/opt/host"),
-           "put_BusinessPIN PIN9", "put_BillerSearchID SEARCH1", "put_AccessNumber ACC2",
-           "put_ProgramVersion 0705", "put_BillerSearchURL https://search.example.com",
-           "put_SessionNumber S42", "put_RequestSourceCode RS", "put_BankIdLength 6",
-           "put_AccountLength 30", "VerifyAccount [   001|1234567                       |false]"}));
-=======
   EXPECT_EQ(script.calls,
-            (Calls{"put_PlayByPlay false", "put_DataPath /opt/host", "put_BusinessPIN PIN9",
-                   "put_BillerSearchID SEARCH1", "put_AccessNumber ACC2", "put_ProgramVersion 0705",
-                   "put_BillerSearchURL https://search.example.com", "put_SessionNumber S42",
-                   "put_RequestSourceCode RS", "put_BankIdLength 6", "put_AccountLength 30",
+            (Calls{"put_PlayByPlay false", "put_DataPath " + testing::P("/opt/host"),
+                   "put_BusinessPIN PIN9", "put_BillerSearchID SEARCH1", "put_AccessNumber ACC2",
+                   "put_ProgramVersion 0705", "put_BillerSearchURL https://search.example.com",
+                   "put_SessionNumber S42", "put_RequestSourceCode RS", "put_BankIdLength 6",
+                   "put_AccountLength 30",
                    "VerifyAccount [   001|1234567                       |false]"}));
->>>>>>> main
 }
 
 // Which calls reach a verifier, and in what form: the local rules refuse without one, the bank id
