@@ -38,6 +38,9 @@ windows: deps
 	cmake --preset mingw64
 	cmake --build --preset mingw64
 	ctest --preset mingw64
+	cmake --preset mingw32
+	cmake --build --preset mingw32 --target nvrandom_com
+	ctest --preset mingw32 -R windows32
 
 bench: deps
 	cmake --preset release

@@ -4,6 +4,8 @@
 // windows.h first: shellapi.h uses its types.
 #include <shellapi.h>
 #include <shlobj.h>
+// windows.h maps AddFontResource to its -A/-W form, which would rename FontService's member here.
+#undef AddFontResource
 
 #include <cstring>
 #include <ctime>
