@@ -1,11 +1,13 @@
 # The two entry points of the README. Both install what they need on a fresh Debian machine.
 APT_PACKAGES := cmake ninja-build g++ clang libclang-rt-14-dev pkg-config libgtest-dev libgmock-dev \
-                libbenchmark-dev libre2-dev libssl-dev nlohmann-json3-dev clang-format
+                libbenchmark-dev libre2-dev libssl-dev nlohmann-json3-dev clang-format \
+                g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine64 wine64-tools fonts-wine \
+                xvfb googletest
 
 NVRANDOM := build/default/tools/nvrandom/nvrandom
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: demo test deps build format-check bench
+.PHONY: demo test deps build format-check bench windows
 
 deps:
 	@missing=$$(for p in $(APT_PACKAGES); do dpkg -s $$p >/dev/null 2>&1 || echo $$p; done); \
@@ -29,6 +31,16 @@ test: build format-check
 	cmake --preset asan
 	cmake --build --preset asan
 	ctest --preset asan
+	$(MAKE) windows
+
+# The Windows build (mingw-w64), its unit tests and every scenario run under Wine.
+windows: deps
+	cmake --preset mingw64
+	cmake --build --preset mingw64
+	ctest --preset mingw64
+	cmake --preset mingw32
+	cmake --build --preset mingw32 --target nvrandom_com
+	ctest --preset mingw32 -R windows32
 
 bench: deps
 	cmake --preset release

@@ -5,7 +5,7 @@
 #include "app/services_factory.h"
 #include "platform/memory_clipboard.h"
 #include "platform/path.h"
-#include "platform/re2_regex.h"
+#include "platform/regex.h"
 
 namespace nvrandom::headless {
 
@@ -65,7 +65,7 @@ HeadlessServices MakeHeadlessServices(const std::string& windows_dir, const std:
   h.services.clock = std::move(clock);
   h.services.clipboard = std::make_unique<MemoryClipboard>();
   h.services.directories = std::make_unique<FixedDirectories>(windows_dir, "/usr/lib");
-  h.services.regex = std::make_unique<Re2Regex>();
+  h.services.regex = MakeSystemRegex();
   AddComponentServices(h.services);
   return h;
 }

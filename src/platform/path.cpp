@@ -56,8 +56,14 @@ std::string Join(std::string_view root, std::string_view name) {
 #ifdef _WIN32
 
 std::string ResolveFolder(const std::string& dir, std::string_view name) {
-  // The file system ignores case itself.
-  return dir + std::string(name);
+  // The file system ignores case itself; the entry's own spelling keeps paths alike on both
+  // platforms.
+  std::string exact = dir + std::string(name);
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = ::FindFirstFileW(Wide(exact).c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return exact;
+  ::FindClose(search);
+  return dir + Narrow(found.cFileName);
 }
 
 bool FileExists(const std::string& file) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string_view>
 
 namespace nvrandom {
@@ -12,5 +13,8 @@ class RegexService {
   // True when `pattern` matches anywhere in `text` (anchors make it a whole-text match).
   virtual bool Test(std::string_view pattern, std::string_view text, bool ignore_case) = 0;
 };
+
+// The system's engine: RE2 on POSIX, the VBScript.RegExp object on Windows.
+std::unique_ptr<RegexService> MakeSystemRegex();
 
 }  // namespace nvrandom

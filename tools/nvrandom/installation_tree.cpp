@@ -38,7 +38,9 @@ InstallationTree::InstallationTree() {
   const std::string root = path::MakeTemporaryFolder("nvrandom-");
   if (root.empty()) return;
   std::error_code ec;
-  const std::string install = root + "Apps/NORVIK/Bin/";
+  // The platform's separator: the component finds its installation root by "<sep>NORVIK".
+  const std::string install =
+      path::Join(path::Join(path::Join(root, "Apps"), "NORVIK"), "Bin") + path::kSeparator;
   fs::create_directories(install, ec);
   if (ec || !WriteCountryFile(install + "FXCountries", SampleCountries())) {
     fs::remove_all(root, ec);

@@ -10,7 +10,7 @@
 #include "platform/path.h"
 #include "platform/posix/posix_fonts.h"
 #include "platform/posix/run_program.h"
-#include "platform/re2_regex.h"
+#include "platform/regex.h"
 
 namespace nvrandom {
 
@@ -87,7 +87,7 @@ Services MakePosixServices() {
   s.fonts =
       std::make_unique<posix::PosixFonts>(path::Join(s.directories->WindowsDirectory(), "fonts"));
   s.clock = std::make_unique<LocalClock>();
-  s.regex = std::make_unique<Re2Regex>();
+  s.regex = MakeSystemRegex();
   return s;
 }
 

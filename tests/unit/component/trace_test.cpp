@@ -1,5 +1,3 @@
-#include <sys/stat.h>
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -49,7 +47,7 @@ TEST(Trace, WriteFailuresAreSwallowed) {
       {"folder read-only",
        [](const fs::path& dir) {
          fs::create_directory(dir / "Norvik");
-         ::chmod((dir / "Norvik").c_str(), 0555);
+         fs::permissions(dir / "Norvik", fs::perms::owner_read | fs::perms::owner_exec);
        }},
       {"trace file is a folder",
        [](const fs::path& dir) { fs::create_directories(dir / "Norvik" / "PBP.txt"); }},
@@ -65,7 +63,8 @@ TEST(Trace, WriteFailuresAreSwallowed) {
                                          : root.root() + row.above_norvik + P("/NORVIK/Bin"));
     EXPECT_NO_THROW(cls.PayeeName("ACME"));
     EXPECT_EQ(h.ctx.store.PayeeName, "ACME");
-    ::chmod((root.dir() / "Norvik").c_str(), 0755);
+    std::error_code ignored;
+    fs::permissions(root.dir() / "Norvik", fs::perms::owner_all, ignored);
   }
 }
 

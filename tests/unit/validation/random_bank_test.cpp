@@ -36,7 +36,7 @@ class RandomBankTest : public ::testing::Test {
 // Every verifier is first given the session's values, in this order and form.
 TEST_F(RandomBankTest, VerifierGetsTheSessionValuesInOrder) {
   ComponentStore& store = h.ctx.store;
-  store.DLLPath = "/opt/host/NORVIK/Bin";
+  store.DLLPath = testing::P("/opt/host/NORVIK/Bin");
   store.BusinessPIN = "PIN9";
   store.BillerSearchNorvikID = "SEARCH1";
   store.AccessNumber = "ACC2";
@@ -47,10 +47,11 @@ TEST_F(RandomBankTest, VerifierGetsTheSessionValuesInOrder) {
   std::string message;
   Random(h.ctx).VerifyAccount("001", "1234567", message);
   EXPECT_EQ(script.calls,
-            (Calls{"put_PlayByPlay false", "put_DataPath /opt/host", "put_BusinessPIN PIN9",
-                   "put_BillerSearchID SEARCH1", "put_AccessNumber ACC2", "put_ProgramVersion 0705",
-                   "put_BillerSearchURL https://search.example.com", "put_SessionNumber S42",
-                   "put_RequestSourceCode RS", "put_BankIdLength 6", "put_AccountLength 30",
+            (Calls{"put_PlayByPlay false", "put_DataPath " + testing::P("/opt/host"),
+                   "put_BusinessPIN PIN9", "put_BillerSearchID SEARCH1", "put_AccessNumber ACC2",
+                   "put_ProgramVersion 0705", "put_BillerSearchURL https://search.example.com",
+                   "put_SessionNumber S42", "put_RequestSourceCode RS", "put_BankIdLength 6",
+                   "put_AccountLength 30",
                    "VerifyAccount [   001|1234567                       |false]"}));
 }
 

@@ -29,12 +29,12 @@ TEST(Get_Windows_Dir, AlwaysEndsInASeparator) {
        {std::pair{"/home/u/.local/share", "/home/u/.local/share/"},
         {"/home/u/.local/share/", "/home/u/.local/share/"},
         {"", "/"}}) {
-    auto headless = headless::MakeHeadlessServices(windows);
+    auto headless = headless::MakeHeadlessServices(testing::P(windows));
     Context ctx(std::move(headless.services));
     Random random(ctx);
     random.Get_Windows_Dir();
-    EXPECT_EQ(random.WindowsDir(), expected);
-    EXPECT_EQ(random.SystemDir(), "/usr/lib/");
+    EXPECT_EQ(random.WindowsDir(), testing::P(expected));
+    EXPECT_EQ(random.SystemDir(), "/usr/lib" + std::string(1, path::kSeparator));
   }
 }
 

@@ -1,4 +1,4 @@
-#include "platform/re2_regex.h"
+#include "platform/posix/re2_regex.h"
 
 #include <re2/re2.h>
 
@@ -39,6 +39,10 @@ bool Re2Regex::Test(std::string_view pattern, std::string_view text, bool ignore
   const re2::RE2& re = Compiled(pattern, ignore_case);
   return re.Match(re2::StringPiece(text.data(), text.size()), 0, text.size(), re2::RE2::UNANCHORED,
                   nullptr, 0);
+}
+
+std::unique_ptr<RegexService> MakeSystemRegex() {
+  return std::make_unique<Re2Regex>();
 }
 
 }  // namespace nvrandom

@@ -1,0 +1,36 @@
+# What a Windows (mingw-w64) build needs besides the portable core.
+
+# No DLL of the compiler's runtime next to ours: libgcc, libstdc++ and winpthread go inside.
+add_link_options(-static -static-libgcc -static-libstdc++)
+# Wine's backtraces read DWARF 4.
+add_compile_options(-gdwarf-4)
+# The wide-character forms of the Windows API throughout, for Windows 7 and later.
+add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0601)
+
+# nlohmann-json is headers only; Debian installs it for the host, and its CMake package would put
+# the host's /usr/include on the cross compiler's path. Its own folder alone is enough.
+if(NOT EXISTS /usr/include/nlohmann/json.hpp)
+  message(FATAL_ERROR "nlohmann-json is missing: sudo apt-get install nlohmann-json3-dev")
+endif()
+file(COPY /usr/include/nlohmann DESTINATION ${CMAKE_BINARY_DIR}/host-headers)
+add_library(nlohmann_json_headers INTERFACE)
+target_include_directories(nlohmann_json_headers SYSTEM INTERFACE ${CMAKE_BINARY_DIR}/host-headers)
+add_library(nlohmann_json::nlohmann_json ALIAS nlohmann_json_headers)
+
+# Wine's IDL compiler, for the COM server's type library. Debian's wine64-tools installs it in
+# Wine's own folder, off the PATH.
+find_program(NVRANDOM_WIDL NAMES widl widl-stable PATHS /usr/lib/wine /usr/lib/x86_64-linux-gnu/wine
+             REQUIRED)
+
+# googletest built from Debian's source package (googletest) with this compiler: Debian ships
+# no mingw-w64 build of it.
+macro(nvrandom_windows_googletest)
+  set(NVRANDOM_GTEST_SOURCE /usr/src/googletest CACHE PATH "googletest source tree")
+  if(NOT EXISTS ${NVRANDOM_GTEST_SOURCE}/CMakeLists.txt)
+    message(FATAL_ERROR "googletest's source is missing: sudo apt-get install googletest")
+  endif()
+  set(BUILD_GMOCK OFF CACHE BOOL "" FORCE)
+  set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+  # Its CMake project defines the GTest::gtest and GTest::gtest_main targets itself.
+  add_subdirectory(${NVRANDOM_GTEST_SOURCE} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+endmacro()
