@@ -1,6 +1,8 @@
 // The Qt composition root: the one place of the Linux library that names the Qt service classes.
 #include "qt_integration.h"
 
+#include "qt_composition.h"
+
 #include <QFile>
 #include <QFont>
 #include <QFontDatabase>

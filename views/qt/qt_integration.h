@@ -2,8 +2,6 @@
 
 #include <memory>
 
-#include "platform/services.h"
-
 class QWidget;
 
 namespace nvrandom {
@@ -44,9 +42,6 @@ class Integration {
  private:
   std::unique_ptr<QtView> view_;
 };
-
-// The Qt services over the platform's (the component's own are added by the composition root).
-Services MakeQtServices();
 
 // Makes the fonts the dialogs name available: "MS Sans Serif" and "Tahoma" from the free fonts
 // of those names that Debian's fonts-wine ships, "Segoe UI" as a metric-close free font.
