@@ -4,6 +4,7 @@
 
 #include "app/services_factory.h"
 #include "platform/memory_clipboard.h"
+#include "platform/path.h"
 #include "platform/re2_regex.h"
 
 namespace nvrandom::headless {
@@ -32,6 +33,19 @@ void RecordingHelp::ShowTopic(std::string_view help_path, uint32_t topic) {
   if (on_call) on_call(calls.back());
 }
 
+bool RecordingFonts::CopyFontFile(const std::string& source, const std::string& target) {
+  const bool copied = path::CopyFileReplacing(source, target);
+  calls.push_back(FontCall{"copy", source, copied ? 1 : 0});
+  if (on_call) on_call(calls.back());
+  return copied;
+}
+
+int RecordingFonts::AddFontResource(const std::string& font_file) {
+  calls.push_back(FontCall{"add", font_file, FontsInFile(font_file)});
+  if (on_call) on_call(calls.back());
+  return calls.back().result;
+}
+
 HeadlessServices MakeHeadlessServices(const std::string& windows_dir, const std::string& now) {
   HeadlessServices h;
   auto box = std::make_unique<RecordingMessageBox>();
@@ -42,6 +56,9 @@ HeadlessServices MakeHeadlessServices(const std::string& windows_dir, const std:
   h.shell = shell.get();
   h.help = help.get();
   h.clock = clock.get();
+  auto fonts = std::make_unique<RecordingFonts>();
+  h.fonts = fonts.get();
+  h.services.fonts = std::move(fonts);
   h.services.message_box = std::move(box);
   h.services.shell = std::move(shell);
   h.services.help = std::move(help);

@@ -83,9 +83,25 @@ class FixedDirectories final : public DirectoryService {
   std::string system_;
 };
 
+struct FontCall {
+  std::string operation;  // "copy" or "add"
+  std::string file;       // the font file (for a copy: its source)
+  int result = 0;         // a copy: 1 done, 0 failed; an add: the number of fonts added
+};
+
+// Copies font files for real (a headless run's folders are its own) and records what would be
+// added to the system's fonts, answering by the file's signature, without touching the system.
+class RecordingFonts final : public FontService {
+ public:
+  bool CopyFontFile(const std::string& source, const std::string& target) override;
+  int AddFontResource(const std::string& font_file) override;
+  std::vector<FontCall> calls;
+  std::function<void(const FontCall&)> on_call;
+};
+
 // The services of a run without windows (the scenario runner, tests, benchmarks, fuzzers):
-// scripted and recording boxes, shell and help, an in-memory clipboard, a fixed clock, the given
-// folders; the real regex engine, the component's own verifier and country-file decipher. The
+// scripted and recording boxes, shell, help and fonts, an in-memory clipboard, a fixed clock, the
+// given folders; the real regex engine, the component's own verifier and country-file decipher. The
 // returned pointers stay owned by the Services.
 struct HeadlessServices {
   Services services;
@@ -93,6 +109,7 @@ struct HeadlessServices {
   RecordingShell* shell = nullptr;
   RecordingHelp* help = nullptr;
   FixedClock* clock = nullptr;
+  RecordingFonts* fonts = nullptr;
 };
 HeadlessServices MakeHeadlessServices(const std::string& windows_dir = "/tmp/nvrandom-windows",
                                       const std::string& now = "15/11/2026 1:58:04 PM");

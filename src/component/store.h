@@ -83,6 +83,9 @@ struct ComponentStore {
   int16_t verifyBusinessNumberFlag = 0;
   std::vector<std::string> poBoxWords;
   std::string gstrInstallRoot;
+  // The Windows directory as the biller dialog's set-up found it (ending in a separator): where
+  // the fonts folder is.
+  std::string gstrWindowsDir;
 };
 
 // The post-office-box words that class initialisation splits into the store, in their order.

@@ -159,4 +159,17 @@ std::optional<std::string> ReadFile(const std::string& file) {
   return content;
 }
 
+bool CopyFileReplacing(const std::string& from, const std::string& to) {
+  namespace fs = std::filesystem;
+  std::error_code error;
+#ifdef _WIN32
+  const fs::path source(Wide(from)), target(Wide(to));
+#else
+  const fs::path source(from), target(to);
+#endif
+  if (target.has_parent_path()) fs::create_directories(target.parent_path(), error);
+  if (error) return false;
+  return fs::copy_file(source, target, fs::copy_options::overwrite_existing, error) && !error;
+}
+
 }  // namespace nvrandom::path

@@ -25,6 +25,10 @@ std::string ResolveFolder(const std::string& dir, std::string_view name);
 
 bool FileExists(const std::string& file);
 
+// Copies the file `from` over `to`, making the folders of `to` that are missing; false when the
+// copy failed.
+bool CopyFileReplacing(const std::string& from, const std::string& to);
+
 // The whole content of a file, byte for byte; nullopt when it cannot be read.
 std::optional<std::string> ReadFile(const std::string& file);
 

@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "platform/country_file_source.h"
 #include "platform/directories.h"
+#include "platform/fonts.h"
 #include "platform/message_box.h"
 #include "platform/regex.h"
 #include "platform/shell.h"
@@ -24,6 +25,7 @@ struct Services {
   std::unique_ptr<HelpService> help;
   std::unique_ptr<ClipboardService> clipboard;
   std::unique_ptr<DirectoryService> directories;
+  std::unique_ptr<FontService> fonts;
   std::unique_ptr<Clock> clock;
   std::unique_ptr<RegexService> regex;
   std::shared_ptr<AccountVerifierFactory> verifiers;

@@ -17,7 +17,8 @@ struct InstitutionTable {
 };
 
 // Reads the table. Every row names the sources of its facts by key; `sources_csv` is the list of
-// those sources (data/institution_sources.csv), whose first column is the key.
+// those sources (data/institution_sources.csv), whose first column is the key. The rows' texts
+// are views into `csv`, which must outlive them.
 InstitutionTable ReadInstitutionTable(std::string_view csv, std::string_view sources_csv);
 
 // The fields of one line of comma-separated values, as views into it. A field in double quotes

@@ -12,46 +12,744 @@ namespace {
 using forms::ControlDesign;
 using K = forms::ControlKind;
 
-constexpr int32_t kRow = 360;  // one line of fields
+// The grid, in twips. Captions are sized for "MS Sans Serif" 8pt at about 90 twips a character,
+// with room to spare; the address block's labels share one column wide enough for its longest
+// caption ("Contact Person / Dept:").
 constexpr int32_t kFieldHeight = 315;
 constexpr int32_t kLabelHeight = 255;
+constexpr int32_t kButtonHeight = 375;
+constexpr int32_t kMarkWidth = 120;
+constexpr int32_t kIcon = 240;
 
-ControlDesign C(K kind, std::string_view name, std::string_view container, std::string_view caption,
-                int32_t left, int32_t top, int32_t width, int32_t height, int max_length = 0,
-                int tab_index = -1, bool visible = true) {
-  ControlDesign d;
-  d.kind = kind;
-  d.name = name;
-  d.container = container;
-  d.caption = caption;
-  d.left = left;
-  d.top = top;
-  d.width = width;
-  d.height = height;
-  d.max_length = max_length;
-  d.tab_index = tab_index;
-  d.visible = visible;
-  return d;
+// Frame1 and its direct children.
+constexpr int32_t kFrame1Width = 10080;
+constexpr int32_t kFrame1Height = 9720;
+constexpr int32_t kInnerWidth = 9840;  // a block inside Frame1
+constexpr int32_t kFrame3Top = 960;
+constexpr int32_t kFrame3Height = 4700;
+constexpr int32_t kBankTop = kFrame3Top + kFrame3Height + 120;
+constexpr int32_t kBankAcctHeight = 1800;
+constexpr int32_t kFXTop = kBankTop + kBankAcctHeight + 120;
+constexpr int32_t kNoteTop = kFXTop + 840;
+constexpr int32_t kLabel14Top = kNoteTop + 510;
+// In US mode the bank details move up under the shrunken address block.
+constexpr int32_t kUSBankHeight = 3360;
+
+// The address block's lines.
+constexpr int32_t kLabelColumn = 120;
+constexpr int32_t kLabelWidth = 2100;
+constexpr int32_t kMarkColumn = 2220;
+constexpr int32_t kFieldColumn = 2400;
+constexpr int32_t FieldTop(int line) {
+  return 570 + line * 360;
+}
+constexpr int32_t LabelTop(int line) {
+  return FieldTop(line) + 30;
 }
 
-ControlDesign Label(std::string_view name, std::string_view container, std::string_view caption,
-                    int32_t left, int32_t top, int32_t width = 1600) {
-  return C(K::kLabel, name, container, caption, left, top, width, kLabelHeight);
+// Under Frame1: the required-fields note and the buttons.
+constexpr int32_t kUnderFrame1 = 120 + kFrame1Height + 40;
+
+// The data lists' columns; the code column is bound (what the record keeps) and shown in the box.
+constexpr std::array<std::string_view, 3> kCountryColumns = {"Country", "Code", "Phone"};
+constexpr std::array<std::string_view, 2> kCurrencyColumns = {"Currency", "Code"};
+
+constexpr ControlDesign AddressLabel(std::string_view name, std::string_view caption, int line) {
+  return {.kind = K::kLabel,
+          .name = name,
+          .container = "Frame3",
+          .caption = caption,
+          .left = kLabelColumn,
+          .top = LabelTop(line),
+          .width = kLabelWidth,
+          .height = kLabelHeight};
 }
 
-ControlDesign Text(std::string_view name, std::string_view container, int32_t left, int32_t top,
-                   int32_t width, int max_length, int tab_index, bool visible = true) {
-  return C(K::kTextBox, name, container, "", left, top, width, kFieldHeight, max_length, tab_index,
-           visible);
-}
+constexpr std::array kControls = std::to_array<ControlDesign>({
+    {.kind = K::kFrame,
+     .name = "Frame1",
+     .caption = random_info_text::kFrame1Designed,
+     .left = 120,
+     .top = 120,
+     .width = kFrame1Width,
+     .height = kFrame1Height},
+    {.kind = K::kLabel,
+     .name = "Label1",
+     .container = "Frame1",
+     .caption = "Biller Name:",
+     .left = 240,
+     .top = 330,
+     .width = 1800,
+     .height = kLabelHeight},
+    {.kind = K::kLabel,
+     .name = "ran_payee_name",
+     .container = "Frame1",
+     .left = 2160,
+     .top = 330,
+     .width = 7200,
+     .height = kLabelHeight},
+    {.kind = K::kLabel,
+     .name = "Label2",
+     .container = "Frame1",
+     .caption = "Account Number:",
+     .left = 240,
+     .top = 630,
+     .width = 1800,
+     .height = kLabelHeight},
+    {.kind = K::kLabel,
+     .name = "ran_payee_account",
+     .container = "Frame1",
+     .left = 2160,
+     .top = 630,
+     .width = 7200,
+     .height = kLabelHeight},
 
-ControlDesign Arrayed(ControlDesign d, int index) {
-  d.index = index;
-  return d;
-}
+    // The address and contact block.
+    {.kind = K::kFrame,
+     .name = "Frame3",
+     .container = "Frame1",
+     .left = 120,
+     .top = kFrame3Top,
+     .width = kInnerWidth,
+     .height = kFrame3Height},
+    {.kind = K::kLabel,
+     .name = "Label3",
+     .container = "Frame3",
+     .caption = "Address to which remittances are to be sent (as shown on the Biller's invoice):",
+     .left = kLabelColumn,
+     .top = 240,
+     .width = 9240,
+     .height = kLabelHeight},
+    AddressLabel("lblStreet", "Street:", 0),
+    {.kind = K::kTextBox,
+     .name = "ran_payee_street",
+     .container = "Frame3",
+     .left = kFieldColumn,
+     .top = FieldTop(0),
+     .width = 4800,
+     .height = kFieldHeight,
+     .max_length = 35,
+     .tab_index = 1},
+    AddressLabel("lblCity", "City:", 1),
+    {.kind = K::kTextBox,
+     .name = "ran_payee_city",
+     .container = "Frame3",
+     .left = kFieldColumn,
+     .top = FieldTop(1),
+     .width = 2200,
+     .height = kFieldHeight,
+     .max_length = 30,
+     .tab_index = 2},
+    {.kind = K::kLabel,
+     .name = "lblProvince",
+     .container = "Frame3",
+     .caption = "Prov/State:",
+     .left = 4700,
+     .top = LabelTop(1),
+     .width = 1050,
+     .height = kLabelHeight},
+    {.kind = K::kComboBox,
+     .name = "ran_payee_prov",
+     .container = "Frame3",
+     .left = 5880,
+     .top = FieldTop(1),
+     .width = 800,
+     .height = kFieldHeight,
+     .max_length = 2,
+     .tab_index = 3},
+    {.kind = K::kLabel,
+     .name = "lblPostalCode",
+     .container = "Frame3",
+     .caption = "Postal Code:",
+     .left = 6780,
+     .top = LabelTop(1),
+     .width = 1150,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "ran_payee_postal",
+     .container = "Frame3",
+     .left = 8060,
+     .top = FieldTop(1),
+     .width = 1300,
+     .height = kFieldHeight,
+     .max_length = 10,
+     .tab_index = 4},
+    AddressLabel("lblCountry", "Country:", 2),
+    {.kind = K::kDataList,
+     .name = "ran_payee_country",
+     .container = "Frame3",
+     .left = kFieldColumn,
+     .top = FieldTop(2),
+     .width = 2800,
+     .height = kFieldHeight,
+     .tab_index = 5,
+     .column_headings = kCountryColumns},
+    {.kind = K::kLabel,
+     .name = "lblCurrency",
+     .container = "Frame3",
+     .caption = "Currency:",
+     .left = 5300,
+     .top = LabelTop(2),
+     .width = 950,
+     .height = kLabelHeight},
+    {.kind = K::kDataList,
+     .name = "cmbCurrencyCode",
+     .container = "Frame3",
+     .left = 6400,
+     .top = FieldTop(2),
+     .width = 2960,
+     .height = kFieldHeight,
+     .tab_index = 6,
+     .column_headings = kCurrencyColumns},
+    AddressLabel("lblPhoneNo", "Phone:", 3),
+    {.kind = K::kLabel,
+     .name = "Label19",
+     .container = "Frame3",
+     .caption = "+",
+     .left = kFieldColumn,
+     .top = LabelTop(3),
+     .width = 150,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtPhoneCountryCode",
+     .container = "Frame3",
+     .left = 2550,
+     .top = FieldTop(3),
+     .width = 500,
+     .height = kFieldHeight,
+     .max_length = 4,
+     .tab_index = 7},
+    {.kind = K::kTextBox,
+     .name = "ran_payee_ph_area",
+     .container = "Frame3",
+     .left = 3150,
+     .top = FieldTop(3),
+     .width = 600,
+     .height = kFieldHeight,
+     .max_length = 3,
+     .tab_index = 8},
+    {.kind = K::kTextBox,
+     .name = "ran_payee_phone",
+     .container = "Frame3",
+     .left = 3850,
+     .top = FieldTop(3),
+     .width = 1200,
+     .height = kFieldHeight,
+     .max_length = 7,
+     .tab_index = 9},
+    {.kind = K::kTextBox,
+     .name = "ran_Inter_payee_phone",
+     .container = "Frame3",
+     .left = 3150,
+     .top = FieldTop(3),
+     .width = 2400,
+     .height = kFieldHeight,
+     .max_length = 15,
+     .tab_index = 10,
+     .visible = false},
+    AddressLabel("lblFax", "Fax:", 4),
+    {.kind = K::kLabel,
+     .name = "Label20",
+     .container = "Frame3",
+     .caption = "+",
+     .left = kFieldColumn,
+     .top = LabelTop(4),
+     .width = 150,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtFaxCountryCode",
+     .container = "Frame3",
+     .left = 2550,
+     .top = FieldTop(4),
+     .width = 500,
+     .height = kFieldHeight,
+     .max_length = 4,
+     .tab_index = 11},
+    {.kind = K::kTextBox,
+     .name = "ran_payee_fax_area",
+     .container = "Frame3",
+     .left = 3150,
+     .top = FieldTop(4),
+     .width = 600,
+     .height = kFieldHeight,
+     .max_length = 3,
+     .tab_index = 12},
+    {.kind = K::kTextBox,
+     .name = "ran_payee_faxnumber",
+     .container = "Frame3",
+     .left = 3850,
+     .top = FieldTop(4),
+     .width = 1200,
+     .height = kFieldHeight,
+     .max_length = 7,
+     .tab_index = 13},
+    {.kind = K::kTextBox,
+     .name = "ran_inter_payee_faxnumber",
+     .container = "Frame3",
+     .left = 3150,
+     .top = FieldTop(4),
+     .width = 2400,
+     .height = kFieldHeight,
+     .max_length = 15,
+     .tab_index = 14,
+     .visible = false},
+    AddressLabel("lblEmail", "Email:", 5),
+    {.kind = K::kTextBox,
+     .name = "ran_payee_email",
+     .container = "Frame3",
+     .left = kFieldColumn,
+     .top = FieldTop(5),
+     .width = 4800,
+     .height = kFieldHeight,
+     .max_length = 60,
+     .tab_index = 15},
+    AddressLabel("lblWebsite", "Website:", 6),
+    {.kind = K::kTextBox,
+     .name = "ran_payee_www",
+     .container = "Frame3",
+     .left = kFieldColumn,
+     .top = FieldTop(6),
+     .width = 4800,
+     .height = kFieldHeight,
+     .max_length = 60,
+     .tab_index = 16},
+    AddressLabel("lblContact", "Contact Person / Dept:", 7),
+    {.kind = K::kTextBox,
+     .name = "ran_payee_contact",
+     .container = "Frame3",
+     .left = kFieldColumn,
+     .top = FieldTop(7),
+     .width = 3400,
+     .height = kFieldHeight,
+     .max_length = 35,
+     .tab_index = 17},
+    {.kind = K::kCheckBox,
+     .name = "chkDiscountsApply",
+     .container = "Frame3",
+     .caption = "Discounts Apply to this Biller",
+     .left = 6000,
+     .top = FieldTop(7),
+     .width = 3360,
+     .height = kFieldHeight,
+     .tab_index = 18},
 
-// Where the required-field marks stand: 0-7 beside the business layout's required fields, 50-52
-// beside the bank account of the individual layout; the others are designed hidden.
+    // Kind of biller and business number, at the foot of the address block: shown by the
+    // domestic business layout only.
+    {.kind = K::kFrame,
+     .name = "fraBusinessNum",
+     .container = "Frame3",
+     .left = 120,
+     .top = 3500,
+     .width = 9600,
+     .height = 1100,
+     .visible = false},
+    {.kind = K::kOptionButton,
+     .name = "optCIndividual",
+     .container = "fraBusinessNum",
+     .caption = "&Individual",
+     .left = 120,
+     .top = 240,
+     .width = 1500,
+     .height = kFieldHeight,
+     .tab_index = 19},
+    {.kind = K::kOptionButton,
+     .name = "optCBusiness",
+     .container = "fraBusinessNum",
+     .caption = "&Business",
+     .left = 1800,
+     .top = 240,
+     .width = 1500,
+     .height = kFieldHeight,
+     .tab_index = 20},
+    {.kind = K::kLabel,
+     .name = "lblBN",
+     .container = "fraBusinessNum",
+     .caption = "Business Number GST/HST (BN):",
+     .left = 120,
+     .top = 670,
+     .width = 2900,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtBusinessNum",
+     .container = "fraBusinessNum",
+     .left = 3120,
+     .top = 640,
+     .width = 2200,
+     .height = kFieldHeight,
+     .max_length = 15,
+     .tab_index = 21},
+    {.kind = K::kCheckBox,
+     .name = "chkBNNotAvailable",
+     .container = "fraBusinessNum",
+     .caption = "Not Available",
+     .left = 5520,
+     .top = 640,
+     .width = 1800,
+     .height = kFieldHeight,
+     .tab_index = 22},
+
+    // Canadian bank account for funds transfer.
+    {.kind = K::kFrame,
+     .name = "fraBankAcctInfo",
+     .container = "Frame1",
+     .caption = random_info_text::kBankAccountOptional,
+     .left = 120,
+     .top = kBankTop,
+     .width = kInnerWidth,
+     .height = kBankAcctHeight},
+    {.kind = K::kLabel,
+     .name = "lblConfirm",
+     .container = "fraBankAcctInfo",
+     .caption = "Confirm",
+     .left = 6500,
+     .top = 270,
+     .width = 1000,
+     .height = kLabelHeight},
+    {.kind = K::kLabel,
+     .name = "lblbankTransit",
+     .container = "fraBankAcctInfo",
+     .caption = "Transit Number (5 digits):",
+     .left = 120,
+     .top = 590,
+     .width = 2900,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtTransit",
+     .container = "fraBankAcctInfo",
+     .left = 3200,
+     .top = 560,
+     .width = 900,
+     .height = kFieldHeight,
+     .max_length = 5,
+     .tab_index = 23},
+    {.kind = K::kLabel,
+     .name = "lblTransitConf",
+     .container = "fraBankAcctInfo",
+     .caption = "Transit Number:",
+     .left = 4900,
+     .top = 590,
+     .width = 1500,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtTransitConf",
+     .container = "fraBankAcctInfo",
+     .left = 6500,
+     .top = 560,
+     .width = 900,
+     .height = kFieldHeight,
+     .max_length = 5,
+     .tab_index = 24},
+    {.kind = K::kLabel,
+     .name = "lblbankId",
+     .container = "fraBankAcctInfo",
+     .caption = "Bank Id (3 digits):",
+     .left = 120,
+     .top = 950,
+     .width = 2900,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtBankID",
+     .container = "fraBankAcctInfo",
+     .left = 3200,
+     .top = 920,
+     .width = 900,
+     .height = kFieldHeight,
+     .max_length = 3,
+     .tab_index = 25},
+    {.kind = K::kLabel,
+     .name = "lblBankIdConf",
+     .container = "fraBankAcctInfo",
+     .caption = "Bank Id:",
+     .left = 4900,
+     .top = 950,
+     .width = 1500,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtBankIDConf",
+     .container = "fraBankAcctInfo",
+     .left = 6500,
+     .top = 920,
+     .width = 900,
+     .height = kFieldHeight,
+     .max_length = 3,
+     .tab_index = 26},
+    {.kind = K::kLabel,
+     .name = "Label13",
+     .container = "fraBankAcctInfo",
+     .caption = "Account Number( max. 12 digits):",
+     .left = 120,
+     .top = 1310,
+     .width = 2900,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtAccount",
+     .container = "fraBankAcctInfo",
+     .left = 3200,
+     .top = 1280,
+     .width = 1600,
+     .height = kFieldHeight,
+     .max_length = 12,
+     .tab_index = 27},
+    {.kind = K::kLabel,
+     .name = "lblAccountConf",
+     .container = "fraBankAcctInfo",
+     .caption = "Account Number:",
+     .left = 4900,
+     .top = 1310,
+     .width = 1500,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtAccountConf",
+     .container = "fraBankAcctInfo",
+     .left = 6500,
+     .top = 1280,
+     .width = 1600,
+     .height = kFieldHeight,
+     .max_length = 12,
+     .tab_index = 28},
+    // Payment kind buttons of the bank block; none of the layouts offers them.
+    {.kind = K::kOptionButton,
+     .name = "optBusiness",
+     .container = "fraBankAcctInfo",
+     .caption = "Business",
+     .left = 8300,
+     .top = 560,
+     .width = 1300,
+     .height = kFieldHeight,
+     .tab_index = 29,
+     .visible = false},
+    {.kind = K::kOptionButton,
+     .name = "optEmployee",
+     .container = "fraBankAcctInfo",
+     .caption = "Employee",
+     .left = 8300,
+     .top = 920,
+     .width = 1300,
+     .height = kFieldHeight,
+     .tab_index = 30,
+     .visible = false},
+
+    // US bank details (US mode), where the Canadian block stands once the address block has
+    // given up the business number's room.
+    {.kind = K::kFrame,
+     .name = "fraBankInfo",
+     .container = "Frame1",
+     .caption = "Bank Account Information:",
+     .left = 120,
+     .top = kBankTop,
+     .width = kInnerWidth,
+     .height = kUSBankHeight,
+     .visible = false},
+    {.kind = K::kLabel,
+     .name = "lblBankName",
+     .container = "fraBankInfo",
+     .caption = "Bank Name:",
+     .left = 120,
+     .top = 330,
+     .width = 4200,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtBankName",
+     .container = "fraBankInfo",
+     .left = 4440,
+     .top = 300,
+     .width = 4800,
+     .height = kFieldHeight,
+     .max_length = 35,
+     .tab_index = 31},
+    {.kind = K::kLabel,
+     .name = "lblRoutingNumber",
+     .container = "fraBankInfo",
+     .caption = "Routing Number (ACH Routing Number 9 Digits):",
+     .left = 120,
+     .top = 690,
+     .width = 4200,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtRoutingNumber",
+     .container = "fraBankInfo",
+     .left = 4440,
+     .top = 660,
+     .width = 1500,
+     .height = kFieldHeight,
+     .max_length = 9,
+     .tab_index = 32},
+    {.kind = K::kLabel,
+     .name = "lblBankAccountNumber",
+     .container = "fraBankInfo",
+     .caption = "Account Number( max. 17 digits):",
+     .left = 120,
+     .top = 1050,
+     .width = 4200,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtBankAccountNumber",
+     .container = "fraBankInfo",
+     .left = 4440,
+     .top = 1020,
+     .width = 2600,
+     .height = kFieldHeight,
+     .max_length = 17,
+     .tab_index = 33},
+    {.kind = K::kLabel,
+     .name = "lblBankInfoConfirm",
+     .container = "fraBankInfo",
+     .caption = "Confirm:",
+     .left = 120,
+     .top = 1410,
+     .width = 4200,
+     .height = kLabelHeight},
+    {.kind = K::kTextBox,
+     .name = "txtConfirmBankAccountNumber",
+     .container = "fraBankInfo",
+     .left = 4440,
+     .top = 1380,
+     .width = 2600,
+     .height = kFieldHeight,
+     .max_length = 17,
+     .tab_index = 34},
+    {.kind = K::kLabel,
+     .name = "lblDisclaimer",
+     .container = "fraBankInfo",
+     .caption = "Disclaimer:",
+     .left = 120,
+     .top = 1800,
+     .width = 1200,
+     .height = kLabelHeight},
+    // Three lines of up to about 100 characters, with room for each to wrap once.
+    {.kind = K::kLabel,
+     .name = "lblDisclaimerDetails",
+     .container = "fraBankInfo",
+     .left = 120,
+     .top = 2100,
+     .width = 9600,
+     .height = 780},
+    {.kind = K::kHyperLink,
+     .name = "ctHyperLink1",
+     .container = "fraBankInfo",
+     .left = 120,
+     .top = 2940,
+     .width = 5000,
+     .height = kLabelHeight},
+
+    // International payments: the explanation, its help icon and the button, side by side. The
+    // business layout shows the explanation, an international biller the button too.
+    {.kind = K::kLabel,
+     .name = "lblFXBankingInfo",
+     .container = "Frame1",
+     .caption = "Payments in currencies other than CAD (Canadian Dollars) must include specific "
+                "information about the bank account being transferred to. Click \"Enter Banking "
+                "Information\" below to enter it.",
+     .left = 240,
+     .top = kFXTop,
+     .width = 6480,
+     .height = 720,
+     .visible = false},
+    {.kind = K::kCommandButton,
+     .name = "cmdFXBankingInfo",
+     .container = "Frame1",
+     .caption = "&Enter Banking Information",
+     .left = 7200,
+     .top = kFXTop + 120,
+     .width = 2760,
+     .height = kButtonHeight,
+     .tab_index = 35,
+     .visible = false},
+    {.kind = K::kLabel,
+     .name = "lbl_note",
+     .container = "Frame1",
+     .caption = "Note: The first payment to a business may be made by cheque if a bank account has "
+                "not been provided.",
+     .left = 240,
+     .top = kNoteTop,
+     .width = 9720,
+     .height = 450},
+    {.kind = K::kLabel,
+     .name = "Label14",
+     .container = "Frame1",
+     .caption = "The above information must be entered accurately to ensure timely payment",
+     .left = 240,
+     .top = kLabel14Top,
+     .width = 9600,
+     .height = kLabelHeight},
+    {.kind = K::kLabel,
+     .name = "lblNotification",
+     .container = "Frame1",
+     .caption = "*Required if recipient is to receive email notification.",
+     .left = 240,
+     .top = kLabel14Top + 300,
+     .width = 9600,
+     .height = kLabelHeight},
+    {.kind = K::kLabel,
+     .name = "lblbkclk",
+     .container = "Frame1",
+     .left = 240,
+     .top = kLabel14Top,
+     .width = 100,
+     .height = kLabelHeight},
+    {.kind = K::kLabel,
+     .name = "lblbankaccount",
+     .container = "Frame1",
+     .left = 360,
+     .top = kLabel14Top,
+     .width = 100,
+     .height = kLabelHeight,
+     .visible = false},
+
+    {.kind = K::kLabel,
+     .name = "Label15",
+     .caption = "Items with * are required fields.",
+     .left = 240,
+     .top = kUnderFrame1,
+     .width = 3500,
+     .height = kLabelHeight},
+    {.kind = K::kCommandButton,
+     .name = "cmdCheque",
+     .caption = "&View Sample Cheque",
+     .left = 3840,
+     .top = kUnderFrame1,
+     .width = 2280,
+     .height = kButtonHeight,
+     .tab_index = 36},
+    {.kind = K::kCommandButton,
+     .name = "cmd_help",
+     .caption = "&Help",
+     .left = 6360,
+     .top = kUnderFrame1,
+     .width = 1200,
+     .height = kButtonHeight,
+     .tab_index = 39},
+    {.kind = K::kCommandButton,
+     .name = "cmd_ok",
+     .caption = "OK",
+     .left = 7680,
+     .top = kUnderFrame1,
+     .width = 1200,
+     .height = kButtonHeight,
+     .tab_index = 37},
+    {.kind = K::kCommandButton,
+     .name = "cmd_cancel",
+     .caption = "Cancel",
+     .left = 9000,
+     .top = kUnderFrame1,
+     .width = 1200,
+     .height = kButtonHeight,
+     .tab_index = 38},
+});
+
+// The help icons: 0 the biller, 1 the address, 2 the phone numbers, 3 the business number,
+// 4 the bank account, 5 the international payment.
+constexpr std::array kHelpIcons = std::to_array<ControlDesign>({
+    {.name = "Frame1", .left = 9600, .top = 330},
+    {.name = "Frame3", .left = 9480, .top = 240},
+    {.name = "Frame3", .left = 9480, .top = FieldTop(3) + 40},
+    {.name = "fraBusinessNum", .left = 9240, .top = 640},
+    {.name = "fraBankAcctInfo", .left = 9480, .top = 270},
+    {.name = "Frame1", .left = 6840, .top = kFXTop + 180},
+});
+
+// The required-field marks: 0-7 beside the business layout's required fields, 50-52 beside the
+// individual layout's bank account; the others are kept hidden out of the way.
 struct Mark {
   int index;
   std::string_view container;
@@ -59,182 +757,66 @@ struct Mark {
   int32_t top;
   bool visible;
 };
+constexpr std::array<Mark, 11> kPlacedMarks = {{
+    {0, "Frame3", kMarkColumn, LabelTop(0), true},  // street
+    {1, "Frame3", kMarkColumn, LabelTop(1), true},  // city
+    {2, "Frame3", kMarkColumn, LabelTop(5), true},  // e-mail
+    {3, "Frame3", 5760, LabelTop(1), true},         // province
+    {4, "Frame3", 7940, LabelTop(1), true},         // postal code
+    {5, "Frame3", kMarkColumn, LabelTop(2), true},  // country
+    {6, "Frame3", 6280, LabelTop(2), true},         // currency
+    {7, "Frame3", kMarkColumn, LabelTop(3), true},  // phone
+    {50, "fraBankAcctInfo", 3050, 590, false},      // transit
+    {51, "fraBankAcctInfo", 3050, 950, false},      // bank id
+    {52, "fraBankAcctInfo", 3050, 1310, false},     // account
+}};
+constexpr int kLastMark = 52;
 
 std::vector<ControlDesign> Build() {
-  std::vector<ControlDesign> t;
-  const auto field_top = [](int line) { return 570 + line * kRow; };
-  const auto label_top = [&](int line) { return field_top(line) + 30; };
-
-  t.push_back(C(K::kFrame, "Frame1", "", random_info_text::kFrame1Designed, 120, 120, 9960, 9000));
-  t.push_back(Label("Label1", "Frame1", "Biller Name:", 240, 330));
-  t.push_back(Label("ran_payee_name", "Frame1", "", 1920, 330, 7000));
-  t.push_back(Label("Label2", "Frame1", "Account Number:", 240, 630));
-  t.push_back(Label("ran_payee_account", "Frame1", "", 1920, 630, 7000));
-
-  // The address and contact block.
-  t.push_back(C(K::kFrame, "Frame3", "Frame1", "", 120, 960, 9700, 4700));
-  t.push_back(
-      Label("Label3", "Frame3",
-            "Address to which remittances are to be sent (as shown on the Biller's invoice):", 120,
-            240, 9400));
-  t.push_back(Label("lblStreet", "Frame3", "Street:", 120, label_top(0)));
-  t.push_back(Text("ran_payee_street", "Frame3", 1800, field_top(0), 4500, 35, 1));
-  t.push_back(Label("lblCity", "Frame3", "City:", 120, label_top(1)));
-  t.push_back(Text("ran_payee_city", "Frame3", 1800, field_top(1), 3000, 30, 2));
-  t.push_back(Label("lblProvince", "Frame3", "Prov/State:", 4920, label_top(1), 1000));
-  t.push_back(
-      C(K::kComboBox, "ran_payee_prov", "Frame3", "", 6000, field_top(1), 900, kFieldHeight, 2, 3));
-  t.push_back(Label("lblPostalCode", "Frame3", "Postal Code:", 7000, label_top(1), 1100));
-  t.push_back(Text("ran_payee_postal", "Frame3", 8200, field_top(1), 1300, 10, 4));
-  t.push_back(Label("lblCountry", "Frame3", "Country:", 120, label_top(2)));
-  t.push_back(C(K::kDataList, "ran_payee_country", "Frame3", "", 1800, field_top(2), 3000,
-                kFieldHeight, 0, 5));
-  t.push_back(Label("lblCurrency", "Frame3", "Currency:", 4920, label_top(2), 1000));
-  t.push_back(C(K::kDataList, "cmbCurrencyCode", "Frame3", "", 6000, field_top(2), 3500,
-                kFieldHeight, 0, 6));
-  t.push_back(Label("lblPhoneNo", "Frame3", "Phone:", 120, label_top(3)));
-  t.push_back(Label("Label19", "Frame3", "+", 1650, label_top(3), 150));
-  t.push_back(Text("txtPhoneCountryCode", "Frame3", 1800, field_top(3), 500, 4, 7));
-  t.push_back(Text("ran_payee_ph_area", "Frame3", 2400, field_top(3), 600, 3, 8));
-  t.push_back(Text("ran_payee_phone", "Frame3", 3100, field_top(3), 1200, 7, 9));
-  t.push_back(Text("ran_Inter_payee_phone", "Frame3", 2400, field_top(3), 2000, 15, 10, false));
-  t.push_back(Label("lblFax", "Frame3", "Fax:", 120, label_top(4)));
-  t.push_back(Label("Label20", "Frame3", "+", 1650, label_top(4), 150));
-  t.push_back(Text("txtFaxCountryCode", "Frame3", 1800, field_top(4), 500, 4, 11));
-  t.push_back(Text("ran_payee_fax_area", "Frame3", 2400, field_top(4), 600, 3, 12));
-  t.push_back(Text("ran_payee_faxnumber", "Frame3", 3100, field_top(4), 1200, 7, 13));
-  t.push_back(Text("ran_inter_payee_faxnumber", "Frame3", 2400, field_top(4), 2000, 15, 14, false));
-  t.push_back(Label("lblEmail", "Frame3", "Email:", 120, label_top(5)));
-  t.push_back(Text("ran_payee_email", "Frame3", 1800, field_top(5), 4500, 60, 15));
-  t.push_back(Label("lblWebsite", "Frame3", "Website:", 120, label_top(6)));
-  t.push_back(Text("ran_payee_www", "Frame3", 1800, field_top(6), 4500, 60, 16));
-  t.push_back(Label("lblContact", "Frame3", "Contact Person / Dept:", 120, label_top(7)));
-  t.push_back(Text("ran_payee_contact", "Frame3", 1800, field_top(7), 4500, 35, 17));
-  t.push_back(C(K::kCheckBox, "chkDiscountsApply", "Frame3", "Discounts Apply to this Biller", 6500,
-                field_top(7), 3000, kFieldHeight, 0, 18));
-
-  // Kind of biller and business number, at the foot of the address block.
-  t.push_back(C(K::kFrame, "fraBusinessNum", "Frame3", "", 120, 3500, 9400, 1100));
-  t.push_back(C(K::kOptionButton, "optCIndividual", "fraBusinessNum", "&Individual", 120, 240, 1500,
-                kFieldHeight, 0, 19));
-  t.push_back(C(K::kOptionButton, "optCBusiness", "fraBusinessNum", "&Business", 1800, 240, 1500,
-                kFieldHeight, 0, 20));
-  t.push_back(Label("lblBN", "fraBusinessNum", "Business Number GST/HST (BN):", 120, 670, 2800));
-  t.push_back(Text("txtBusinessNum", "fraBusinessNum", 3000, 640, 2200, 15, 21));
-  t.push_back(C(K::kCheckBox, "chkBNNotAvailable", "fraBusinessNum", "Not Available", 5400, 640,
-                1800, kFieldHeight, 0, 22));
-
-  // Canadian bank account for funds transfer.
-  t.push_back(C(K::kFrame, "fraBankAcctInfo", "Frame1",
-                "Bank Account Number to be Credited (Optional)", 120, 5760, 9700, 1560));
-  t.push_back(Label("lblConfirm", "fraBankAcctInfo", "Confirm", 6000, 240, 1000));
-  t.push_back(
-      Label("lblbankTransit", "fraBankAcctInfo", "Transit Number (5 digits):", 120, 590, 2600));
-  t.push_back(Text("txtTransit", "fraBankAcctInfo", 2800, 560, 900, 5, 23));
-  t.push_back(Label("lblTransitConf", "fraBankAcctInfo", "Transit Number:", 4500, 590, 1400));
-  t.push_back(Text("txtTransitConf", "fraBankAcctInfo", 6000, 560, 900, 5, 24));
-  t.push_back(Label("lblbankId", "fraBankAcctInfo", "Bank Id (3 digits):", 120, 950, 2600));
-  t.push_back(Text("txtBankID", "fraBankAcctInfo", 2800, 920, 900, 3, 25));
-  t.push_back(Label("lblBankIdConf", "fraBankAcctInfo", "Bank Id:", 4500, 950, 1400));
-  t.push_back(Text("txtBankIDConf", "fraBankAcctInfo", 6000, 920, 900, 3, 26));
-  t.push_back(
-      Label("Label13", "fraBankAcctInfo", "Account Number( max. 12 digits):", 120, 1310, 2600));
-  t.push_back(Text("txtAccount", "fraBankAcctInfo", 2800, 1280, 1600, 12, 27));
-  t.push_back(Label("lblAccountConf", "fraBankAcctInfo", "Account Number:", 4500, 1310, 1400));
-  t.push_back(Text("txtAccountConf", "fraBankAcctInfo", 6000, 1280, 1600, 12, 28));
-  // Payment kind buttons of the bank block; not part of the current layouts.
-  t.push_back(C(K::kOptionButton, "optBusiness", "fraBankAcctInfo", "Business", 7800, 560, 1500,
-                kFieldHeight, 0, 29, false));
-  t.push_back(C(K::kOptionButton, "optEmployee", "fraBankAcctInfo", "Employee", 7800, 920, 1500,
-                kFieldHeight, 0, 30, false));
-
-  // US bank details (US mode), in the same place as the Canadian block.
-  t.push_back(C(K::kFrame, "fraBankInfo", "Frame1", "Bank Account Information:", 120, 5760, 9700,
-                2700, 0, -1, false));
-  t.push_back(Label("lblBankName", "fraBankInfo", "Bank Name:", 120, 330, 3600));
-  t.push_back(Text("txtBankName", "fraBankInfo", 3800, 300, 4500, 35, 31));
-  t.push_back(Label("lblRoutingNumber", "fraBankInfo",
-                    "Routing Number (ACH Routing Number 9 Digits):", 120, 690, 3600));
-  t.push_back(Text("txtRoutingNumber", "fraBankInfo", 3800, 660, 1500, 9, 32));
-  t.push_back(Label("lblBankAccountNumber", "fraBankInfo", "Account Number( max. 17 digits):", 120,
-                    1050, 3600));
-  t.push_back(Text("txtBankAccountNumber", "fraBankInfo", 3800, 1020, 2600, 17, 33));
-  t.push_back(Label("lblBankInfoConfirm", "fraBankInfo", "Confirm:", 120, 1410, 3600));
-  t.push_back(Text("txtConfirmBankAccountNumber", "fraBankInfo", 3800, 1380, 2600, 17, 34));
-  t.push_back(Label("lblDisclaimer", "fraBankInfo", "Disclaimer:", 120, 1800, 1200));
-  t.push_back(C(K::kLabel, "lblDisclaimerDetails", "fraBankInfo", "", 1400, 1800, 8100, 600));
-  t.push_back(C(K::kHyperLink, "ctHyperLink1", "fraBankInfo", "", 1400, 2400, 5000, kLabelHeight));
-
-  // International payments.
-  t.push_back(C(K::kLabel, "lblFXBankingInfo", "Frame1",
-                "Payments in currencies other than CAD (Canadian Dollars) must include specific "
-                "information about the bank account being transferred to. Click \"Enter Banking "
-                "Information\" below to enter it.",
-                120, 7400, 7000, 600));
-  t.push_back(C(K::kCommandButton, "cmdFXBankingInfo", "Frame1", "&Enter Banking Information", 7300,
-                7450, 2400, 400, 0, 35));
-  t.push_back(C(K::kLabel, "lbl_note", "Frame1",
-                "Note: The first payment to a business may be made by cheque if a bank account has "
-                "not been provided.",
-                120, 8100, 9500, 255));
-  t.push_back(Label("Label14", "Frame1",
-                    "The above information must be entered accurately to ensure timely payment",
-                    120, 8400, 9500));
-  t.push_back(Label("lblNotification", "Frame1",
-                    "*Required if recipient is to receive email notification.", 120, 8700, 9500));
-  t.push_back(Label("lblbkclk", "Frame1", "", 120, 8700, 100));
-  t.push_back(Label("lblbankaccount", "Frame1", "", 240, 8700, 100));
-
-  static constexpr std::array<int32_t, 6> kHelpTops = {330, 1560, 3300, 4500, 5900, 7450};
-  for (int i = 0; i < static_cast<int>(kHelpTops.size()); ++i) {
-    t.push_back(Arrayed(C(K::kImage, "imgHelpCSFTInfo", "Frame1", "", 9600,
-                          kHelpTops[static_cast<size_t>(i)], 240, 240),
-                        i));
+  std::vector<ControlDesign> table(kControls.begin(), kControls.end());
+  for (int i = 0; i < static_cast<int>(kHelpIcons.size()); ++i) {
+    const ControlDesign& at = kHelpIcons[static_cast<size_t>(i)];
+    table.push_back({.kind = K::kImage,
+                     .name = "imgHelpCSFTInfo",
+                     .index = i,
+                     .container = at.name,
+                     .left = at.left,
+                     .top = at.top,
+                     .width = kIcon,
+                     .height = kIcon});
   }
-
-  static constexpr std::array<Mark, 11> kPlacedMarks = {{
-      {0, "Frame3", 1620, 600, true},              // street
-      {1, "Frame3", 1620, 960, true},              // city
-      {2, "Frame3", 1620, 2400, true},             // e-mail
-      {3, "Frame3", 5850, 960, true},              // province
-      {4, "Frame3", 8050, 960, true},              // postal code
-      {5, "Frame3", 1620, 1320, true},             // country
-      {6, "Frame3", 5850, 1320, true},             // currency
-      {7, "Frame3", 1500, 1680, true},             // phone
-      {50, "fraBankAcctInfo", 2650, 590, false},   // transit
-      {51, "fraBankAcctInfo", 2650, 950, false},   // bank id
-      {52, "fraBankAcctInfo", 2650, 1310, false},  // account
-  }};
-  for (int i = 0; i <= 52; ++i) {
-    Mark mark{i, "Frame1", 9400, 330, false};
+  for (int i = 0; i <= kLastMark; ++i) {
+    Mark mark{i, "Frame1", 9720, 330, false};
     for (const Mark& placed : kPlacedMarks) {
       if (placed.index == i) mark = placed;
     }
-    t.push_back(Arrayed(C(K::kLabel, "lblAsterisk", mark.container, "*", mark.left, mark.top, 120,
-                          kLabelHeight, 0, -1, mark.visible),
-                        i));
+    table.push_back({.kind = K::kLabel,
+                     .name = "lblAsterisk",
+                     .index = i,
+                     .container = mark.container,
+                     .caption = "*",
+                     .left = mark.left,
+                     .top = mark.top,
+                     .width = kMarkWidth,
+                     .height = kLabelHeight,
+                     .visible = mark.visible});
   }
-
-  t.push_back(Label("Label15", "", "Items with * are required fields.", 240, 9200, 4000));
-  t.push_back(
-      C(K::kCommandButton, "cmdCheque", "", "&View Sample Cheque", 240, 9600, 2400, 400, 0, 36));
-  t.push_back(C(K::kCommandButton, "cmd_help", "", "&Help", 4900, 9600, 1500, 400, 0, 39));
-  t.push_back(C(K::kCommandButton, "cmd_ok", "", "OK", 6700, 9600, 1500, 400, 0, 37));
-  t.push_back(C(K::kCommandButton, "cmd_cancel", "", "Cancel", 8400, 9600, 1500, 400, 0, 38));
-  return t;
+  return table;
 }
 
 }  // namespace
 
 const forms::FormDesign& RandomInfoForm() {
+  // The business layout's height: the buttons' foot and a margin for the window's frame.
   static const forms::FormDesign kDesign{random_info_text::kFormName,
-                                         random_info_text::kDesignedTitle, 10320, 10500, true};
+                                         random_info_text::kDesignedTitle, 10440,
+                                         kUnderFrame1 + kButtonHeight + 500, true};
   return kDesign;
 }
 
 std::span<const ControlDesign> RandomInfoControls() {
-  static const std::vector<ControlDesign> kControls = Build();
-  return kControls;
+  static const std::vector<ControlDesign> kTable = Build();
+  return kTable;
 }
 
 }  // namespace nvrandom

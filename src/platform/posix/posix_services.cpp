@@ -1,9 +1,4 @@
 #include "platform/posix/posix_services.h"
-
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cstdlib>
 #include <ctime>
 #include <memory>
@@ -13,25 +8,15 @@
 #include "platform/general_date.h"
 #include "platform/memory_clipboard.h"
 #include "platform/path.h"
+#include "platform/posix/posix_fonts.h"
+#include "platform/posix/run_program.h"
 #include "platform/re2_regex.h"
-
-extern char** environ;
 
 namespace nvrandom {
 
 namespace {
 
-// Runs a program with one argument and waits for it; false when it cannot be started or fails.
-bool RunProgram(const char* program, const std::string& argument) {
-  pid_t pid = 0;
-  std::string prog(program);
-  std::string arg(argument);
-  char* argv[] = {prog.data(), arg.data(), nullptr};
-  if (::posix_spawnp(&pid, program, nullptr, nullptr, argv, environ) != 0) return false;
-  int status = 0;
-  if (::waitpid(pid, &status, 0) < 0) return false;
-  return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
+using posix::RunProgram;
 
 bool HasWebScheme(std::string_view address) {
   return ascii::StartsWithIgnoreCase(address, "http://") ||
@@ -99,6 +84,8 @@ Services MakePosixServices() {
   s.help = std::make_unique<XdgHelp>();
   s.clipboard = std::make_unique<MemoryClipboard>();
   s.directories = std::make_unique<XdgDirectories>();
+  s.fonts =
+      std::make_unique<posix::PosixFonts>(path::Join(s.directories->WindowsDirectory(), "fonts"));
   s.clock = std::make_unique<LocalClock>();
   s.regex = std::make_unique<Re2Regex>();
   return s;

@@ -22,6 +22,9 @@ struct ReaderRow {
   std::string text;
   Records expected;
 };
+void PrintTo(const ReaderRow& row, std::ostream* os) {
+  *os << row.why;
+}
 
 class ReadCountryRecordsTest : public ::testing::TestWithParam<ReaderRow> {};
 

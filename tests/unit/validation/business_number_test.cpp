@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "support/test_host.h"
 #include "support/recording_verifier.h"
+#include "support/test_host.h"
 #include "validation/random.h"
 
 namespace nvrandom {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,9 @@ struct RowCase {
   std::string line;
   std::string error;  // part of the error; empty when the row is kept
 };
+void PrintTo(const RowCase& row, std::ostream* os) {
+  *os << row.line;
+}
 
 class InstitutionRowTest : public ::testing::TestWithParam<RowCase> {};
 
@@ -86,13 +90,14 @@ INSTANTIATE_TEST_SUITE_P(
                       RowCase{"001,Bank,7,AA,22/11/2026,", "YYYY-MM-DD"}));
 
 TEST(InstitutionTable, NeedsItsHeadingAndRisingNumbers) {
-  const InstitutionTable table = ReadInstitutionTable(std::string(kHeading) +
-                                                          "002,Two,7,AA,2026-11-22,\r\n"
-                                                          "\n"
-                                                          "001,One,7,AA,2026-11-22,\n"
-                                                          "002,Again,7,AA,2026-11-22,\n"
-                                                          "003,Three,7,AA,2026-11-22,",
-                                                      kSources);
+  // The rows are views into the text, which must outlive them.
+  const std::string csv = std::string(kHeading) +
+                          "002,Two,7,AA,2026-11-22,\r\n"
+                          "\n"
+                          "001,One,7,AA,2026-11-22,\n"
+                          "002,Again,7,AA,2026-11-22,\n"
+                          "003,Three,7,AA,2026-11-22,";
+  const InstitutionTable table = ReadInstitutionTable(csv, kSources);
   ASSERT_EQ(table.rows.size(), 2u);
   EXPECT_EQ(table.rows[0].name, "Two");
   EXPECT_EQ(table.rows[1].number, "003");
