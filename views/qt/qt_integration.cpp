@@ -27,6 +27,7 @@ Services MakeQtServices() {
   services.clipboard = std::make_unique<QtClipboardService>();
   services.shell = std::make_unique<QtShellService>();
   services.help = std::make_unique<QtHelpService>();
+  services.fonts = std::make_unique<QtFontService>(std::move(services.fonts));
   return services;
 }
 

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QFontDatabase>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -117,6 +118,17 @@ void QtHelpService::ShowTopic(std::string_view help_path, uint32_t topic) {
   if (const qsizetype window = file.indexOf(u'>'); window >= 0) file.truncate(window);
   if (file.isEmpty() || !QFileInfo::exists(file)) return;
   QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+}
+
+bool QtFontService::CopyFontFile(const std::string& source, const std::string& target) {
+  return platform_ != nullptr && platform_->CopyFontFile(source, target);
+}
+
+int QtFontService::AddFontResource(const std::string& font_file) {
+  const int added = platform_ != nullptr ? platform_->AddFontResource(font_file) : 0;
+  if (added == 0) return 0;
+  QFontDatabase::addApplicationFont(ToQString(font_file));
+  return added;
 }
 
 }  // namespace nvrandom::qt

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "platform/clipboard.h"
+#include "platform/fonts.h"
 #include "platform/message_box.h"
 #include "platform/shell.h"
 
@@ -38,6 +40,18 @@ class QtShellService final : public ShellService {
 class QtHelpService final : public HelpService {
  public:
   void ShowTopic(std::string_view help_path, uint32_t topic) override;
+};
+
+// The platform's font installation, and the installed font added to the application's fonts at
+// once (Qt reads fontconfig's list only when it starts).
+class QtFontService final : public FontService {
+ public:
+  explicit QtFontService(std::unique_ptr<FontService> platform) : platform_(std::move(platform)) {}
+  bool CopyFontFile(const std::string& source, const std::string& target) override;
+  int AddFontResource(const std::string& font_file) override;
+
+ private:
+  std::unique_ptr<FontService> platform_;
 };
 
 }  // namespace nvrandom::qt
