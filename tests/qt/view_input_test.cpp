@@ -29,7 +29,7 @@ using K = forms::ControlKind;
 
 const forms::FormDesign kDesign{"frmProbe", "Probe", 6000, 4000, false};
 
-const std::array<forms::ControlDesign, 9> kControls = {{
+const std::array<forms::ControlDesign, 10> kControls = {{
     {.kind = K::kTextBox,
      .name = "txtUpper",
      .left = 120,
@@ -38,11 +38,18 @@ const std::array<forms::ControlDesign, 9> kControls = {{
      .height = 315,
      .max_length = 6,
      .tab_index = 0},
-    {.kind = K::kTextBox,
-     .name = "txtPlain",
+    {.kind = K::kLabel,
+     .name = "lblPlain",
+     .caption = "&Plain text:",
      .left = 120,
      .top = 540,
-     .width = 4000,
+     .width = 1300,
+     .height = 255},
+    {.kind = K::kTextBox,
+     .name = "txtPlain",
+     .left = 1500,
+     .top = 540,
+     .width = 2600,
      .height = 315,
      .tab_index = 1},
     {.kind = K::kTextBox,
@@ -197,6 +204,11 @@ class ViewInputTest : public QObject {
     edit->setSelection(0, 1);  // as the mouse selects
     QCOMPARE(Ctl("txtPlain").SelStart(), 0);
     QCOMPARE(Ctl("txtPlain").SelLength(), 1);
+  }
+
+  void anInputIsNamedByItsLabel() {
+    QCOMPARE(Widget<QLineEdit>("txtPlain")->accessibleName(), QString("Plain text:"));
+    QVERIFY(Widget<QLineEdit>("txtUpper")->accessibleName().isEmpty());
   }
 
   void thePasswordFieldShowsOnlyItsMask() {

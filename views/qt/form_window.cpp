@@ -171,6 +171,7 @@ FormWindow::FormWindow(forms::Form& form, double logical_dpi, QWidget* parent)
     }
     ApplyAll(*r);
   }
+  NameInputs();
   for (const Property p :
        {Property::kCaption, Property::kWidth, Property::kBackColor, Property::kFontName}) {
     FormChanged(p);
@@ -178,6 +179,27 @@ FormWindow::FormWindow(forms::Form& form, double logical_dpi, QWidget* parent)
 }
 
 FormWindow::~FormWindow() = default;
+
+// A screen reader reads an input by its label: the label in the same container on the input's
+// line, nearest to its left.
+void FormWindow::NameInputs() {
+  for (auto& input : records_) {
+    const Control& c = *input->control;
+    if (!forms::IsTextKind(c.kind())) continue;
+    const Control* best = nullptr;
+    const int32_t middle = c.Top() + c.Height() / 2;
+    for (const auto& other : records_) {
+      const Control& l = *other->control;
+      if (l.kind() != ControlKind::kLabel || l.Container() != c.Container() ||
+          l.Caption().empty() || l.Left() + l.Width() > c.Left() + 60 || middle < l.Top() ||
+          middle > l.Top() + l.Height() + 60) {
+        continue;
+      }
+      if (best == nullptr || l.Left() > best->Left()) best = &l;
+    }
+    if (best != nullptr) input->input->setAccessibleName(WithoutAccessKeys(best->Caption()));
+  }
+}
 
 void FormWindow::Detach() {
   form_ = nullptr;

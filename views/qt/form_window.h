@@ -46,6 +46,7 @@ class FormWindow final : public QWidget {
  private:
   ControlRecord* RecordOf(const QObject* widget) const;
   void ApplyAll(ControlRecord& record);
+  void NameInputs();
   void Update(ControlRecord& record, forms::Property property);
   bool Key(ControlRecord& record, QKeyEvent* event);
   bool Mouse(ControlRecord& record, QEvent* event);
