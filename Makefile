@@ -2,7 +2,8 @@
 APT_PACKAGES := cmake ninja-build g++ clang libclang-rt-14-dev pkg-config libgtest-dev libgmock-dev \
                 libbenchmark-dev libre2-dev libssl-dev nlohmann-json3-dev clang-format \
                 g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine64 wine64-tools fonts-wine \
-                xvfb googletest
+                xvfb googletest qt6-base-dev qt6-base-dev-tools qt6-svg-dev xauth x11-utils xdotool \
+                openbox
 
 NVRANDOM := build/default/tools/nvrandom/nvrandom
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
@@ -20,8 +21,10 @@ build: deps
 	cmake --preset default
 	cmake --build --preset default
 
+# The biller dialog on a sample biller: a real window with a display; without one, a scripted
+# session on the offscreen platform writes its screenshots and billers into build/demo.
 demo: build
-	$(NVRANDOM) run --transcript examples/*.scn
+	$(NVRANDOM) demo --out build/demo
 
 format-check: deps
 	clang-format --dry-run --Werror $$(git ls-files '*.cpp' '*.h')

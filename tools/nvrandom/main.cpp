@@ -1,15 +1,22 @@
-// nvrandom: the scenario runner and the country-file tool.
+// nvrandom: the demo, the scenario runner and the country-file tool.
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "countries_command.h"
+#ifdef NVRANDOM_WITH_QT
+#include "demo/demo_command.h"
+#endif
 #include "scenario_runner.h"
 
 namespace {
 
 int Usage() {
   std::cerr << "usage:\n"
+#ifdef NVRANDOM_WITH_QT
+               "  nvrandom demo [--sample business|individual|us|international] [--offscreen] "
+               "[--out DIR]\n"
+#endif
                "  nvrandom run [--transcript] FILE...\n"
                "  nvrandom countries encipher PLAIN ENCIPHERED\n"
                "  nvrandom countries decipher ENCIPHERED PLAIN\n"
@@ -35,6 +42,9 @@ int main(int argc, char** argv) {
     if (files.empty()) return Usage();
     return nvrandom::scenario::RunScenarioFiles(files, options, std::cout);
   }
+#ifdef NVRANDOM_WITH_QT
+  if (args[0] == "demo") return nvrandom::demo::DemoCommand(argc, argv, std::cout, std::cerr);
+#endif
   if (args[0] == "countries") {
     return nvrandom::CountriesCommand({args.begin() + 1, args.end()}, std::cout, std::cerr);
   }

@@ -1,0 +1,350 @@
+// The view against a small form of its own: what a person does to the widgets reaches the model
+// through the runtime, and what the model then holds is what the widgets show.
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+#include <array>
+#include <memory>
+
+#include "form_window.h"
+#include "forms/application.h"
+#include "forms/form.h"
+#include "qt_integration.h"
+#include "qt_services.h"
+#include "qt_view.h"
+
+namespace nvrandom::qt {
+namespace {
+
+using K = forms::ControlKind;
+
+const forms::FormDesign kDesign{"frmProbe", "Probe", 6000, 4000, false};
+
+const std::array<forms::ControlDesign, 10> kControls = {{
+    {.kind = K::kTextBox,
+     .name = "txtUpper",
+     .left = 120,
+     .top = 120,
+     .width = 2000,
+     .height = 315,
+     .max_length = 6,
+     .tab_index = 0},
+    {.kind = K::kLabel,
+     .name = "lblPlain",
+     .caption = "&Plain text:",
+     .left = 120,
+     .top = 540,
+     .width = 1300,
+     .height = 255},
+    {.kind = K::kTextBox,
+     .name = "txtPlain",
+     .left = 1500,
+     .top = 540,
+     .width = 2600,
+     .height = 315,
+     .tab_index = 1},
+    {.kind = K::kTextBox,
+     .name = "txtSecret",
+     .left = 120,
+     .top = 960,
+     .width = 2000,
+     .height = 315,
+     .tab_index = 2},
+    {.kind = K::kCheckBox,
+     .name = "chkTick",
+     .caption = "Tick",
+     .left = 120,
+     .top = 1380,
+     .width = 2000,
+     .height = 255,
+     .tab_index = 3},
+    {.kind = K::kFrame,
+     .name = "fraChoice",
+     .caption = "Choice",
+     .left = 2400,
+     .top = 1380,
+     .width = 3000,
+     .height = 1200},
+    {.kind = K::kOptionButton,
+     .name = "optOne",
+     .container = "fraChoice",
+     .caption = "One",
+     .left = 120,
+     .top = 300,
+     .width = 1200,
+     .height = 255,
+     .tab_index = 4},
+    {.kind = K::kOptionButton,
+     .name = "optTwo",
+     .container = "fraChoice",
+     .caption = "Two",
+     .left = 120,
+     .top = 700,
+     .width = 1200,
+     .height = 255,
+     .tab_index = 5},
+    {.kind = K::kComboBox,
+     .name = "cboProv",
+     .left = 120,
+     .top = 1800,
+     .width = 1200,
+     .height = 315,
+     .tab_index = 6},
+    {.kind = K::kCommandButton,
+     .name = "cmdOK",
+     .caption = "OK",
+     .left = 120,
+     .top = 2400,
+     .width = 1200,
+     .height = 375,
+     .tab_index = 7},
+}};
+
+// Its handlers do what the biller dialog's do to keys: upper-case letters, refuse digits and move
+// on when the field is full; refuse a paste; count clicks.
+class ProbeForm final : public forms::Form {
+ public:
+  explicit ProbeForm(forms::Application& app) : forms::Form(app, kDesign, kControls) {
+    On("txtUpper").KeyPress = [](int16_t& key) {
+      if (key >= '0' && key <= '9') key = 0;
+      if (key >= 'a' && key <= 'z') key = static_cast<int16_t>(key - 32);
+    };
+    On("txtUpper").Change = [this] {
+      if (Ctl("txtUpper").Text().size() == 6) this->app().SetFocus(Ctl("txtPlain"));
+    };
+    On("txtSecret").KeyPress = [](int16_t& key) {
+      if (key == 22) key = 0;  // no paste into the secret
+    };
+    On("cmdOK").Click = [this] { ++clicks; };
+  }
+  void Form_Load() override {
+    Ctl("txtSecret").SetPasswordChar("*");
+    Ctl("cboProv").AddItem("ON");
+    Ctl("cboProv").AddItem("QC");
+  }
+  int clicks = 0;
+};
+
+class ViewInputTest : public QObject {
+  Q_OBJECT
+
+ private:
+  std::unique_ptr<QtClipboardService> clipboard_;
+  std::unique_ptr<forms::Application> app_;
+  std::unique_ptr<QtView> view_;
+  std::shared_ptr<ProbeForm> form_;
+
+  FormWindow& Window() { return *view_->WindowOf(*form_); }
+  template <typename W>
+  W* Widget(std::string_view name) {
+    return qobject_cast<W*>(Window().WidgetOf(name));
+  }
+  forms::Control& Ctl(std::string_view name) { return form_->Ctl(name); }
+
+ private slots:
+  void init() {
+    InstallDialogFonts();
+    clipboard_ = std::make_unique<QtClipboardService>();
+    app_ = std::make_unique<forms::Application>(*clipboard_);
+    view_ = std::make_unique<QtView>(*app_);
+    form_ = std::make_shared<ProbeForm>(*app_);
+    form_->Show(false);
+    QVERIFY(QTest::qWaitForWindowExposed(&Window()));
+  }
+  void cleanup() {
+    if (form_->IsLoaded()) form_->Unload();
+    form_.reset();
+    view_.reset();
+    app_.reset();
+  }
+
+  void typingGoesThroughTheHandlersAndBack() {
+    QLineEdit* edit = Widget<QLineEdit>("txtUpper");
+    QCOMPARE(QApplication::focusWidget(), edit);
+    QTest::keyClicks(edit, "ab1c");
+    QCOMPARE(Ctl("txtUpper").Text(), "ABC");
+    QCOMPARE(edit->text(), QString("ABC"));
+    QCOMPARE(edit->cursorPosition(), 3);
+  }
+
+  void aFullFieldMovesOnAndTheRestIsTypedInTheNext() {
+    // As at a keyboard, each key goes to the widget that has the focus when it is typed.
+    for (const char c : std::string_view("abcdefgh")) {
+      QTest::keyClick(QApplication::focusWidget(), c);
+    }
+    QCOMPARE(Ctl("txtUpper").Text(), "ABCDEF");
+    QCOMPARE(Ctl("txtPlain").Text(), "gh");
+    QCOMPARE(app_->Focused(), &Ctl("txtPlain"));
+    QCOMPARE(QApplication::focusWidget(), Widget<QLineEdit>("txtPlain"));
+    QCOMPARE(Widget<QLineEdit>("txtPlain")->text(), QString("gh"));
+  }
+
+  void editingKeysAndSelectionAgree() {
+    QLineEdit* edit = Widget<QLineEdit>("txtPlain");
+    QTest::mouseClick(edit, Qt::LeftButton);
+    QCOMPARE(app_->Focused(), &Ctl("txtPlain"));
+    QTest::keyClicks(edit, "hello");
+    QTest::keyClick(edit, Qt::Key_Home);
+    QTest::keyClick(edit, Qt::Key_Delete);
+    QTest::keyClick(edit, Qt::Key_End);
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    QCOMPARE(Ctl("txtPlain").Text(), "ell");
+    QCOMPARE(edit->text(), QString("ell"));
+    Ctl("txtPlain").SetSelection(1, 2);
+    QCOMPARE(edit->selectedText(), QString("ll"));
+    edit->setSelection(0, 1);  // as the mouse selects
+    QCOMPARE(Ctl("txtPlain").SelStart(), 0);
+    QCOMPARE(Ctl("txtPlain").SelLength(), 1);
+  }
+
+  void anInputIsNamedByItsLabel() {
+    QCOMPARE(Widget<QLineEdit>("txtPlain")->accessibleName(), QString("Plain text:"));
+    QVERIFY(Widget<QLineEdit>("txtUpper")->accessibleName().isEmpty());
+  }
+
+  void thePasswordFieldShowsOnlyItsMask() {
+    QLineEdit* edit = Widget<QLineEdit>("txtSecret");
+    QTest::mouseClick(edit, Qt::LeftButton);
+    QTest::keyClicks(edit, "s3cret");
+    QCOMPARE(Ctl("txtSecret").Text(), "s3cret");
+    QCOMPARE(edit->text(), QString("******"));
+  }
+
+  void pastesGoThroughTheGuards() {
+    QApplication::clipboard()->setText("pasted");
+    QLineEdit* secret = Widget<QLineEdit>("txtSecret");
+    QTest::mouseClick(secret, Qt::LeftButton);
+    QTest::keyClick(secret, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(Ctl("txtSecret").Text(), "");
+    // A long paste: all of it where there is no limit, what fits where there is one.
+    const QString long_text(10000, u'x');
+    QApplication::clipboard()->setText(long_text);
+    QLineEdit* plain = Widget<QLineEdit>("txtPlain");
+    QTest::mouseClick(plain, Qt::LeftButton);
+    QTest::keyClick(plain, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(Ctl("txtPlain").Text().size(), size_t{10000});
+    QCOMPARE(plain->text(), long_text);
+    QLineEdit* upper = Widget<QLineEdit>("txtUpper");
+    QTest::mouseClick(upper, Qt::LeftButton);
+    QTest::keyClick(upper, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(Ctl("txtUpper").Text(), "xxxxxx");
+  }
+
+  void inputMethodTextIsTypedAsItsCharacters() {
+    QLineEdit* plain = Widget<QLineEdit>("txtPlain");
+    QTest::mouseClick(plain, Qt::LeftButton);
+    QInputMethodEvent composed;
+    composed.setCommitString(QString::fromUtf8("été 東京"));
+    QApplication::sendEvent(plain, &composed);
+    QCOMPARE(Ctl("txtPlain").Text(), "été 東京");
+    QCOMPARE(plain->text(), QString::fromUtf8("été 東京"));
+  }
+
+  void clicksAndChoicesReachTheModel() {
+    QTest::mouseClick(Widget<QCheckBox>("chkTick"), Qt::LeftButton);
+    QCOMPARE(Ctl("chkTick").Value(), 1);
+    QCOMPARE(Widget<QCheckBox>("chkTick")->checkState(), Qt::Checked);
+    QTest::mouseClick(Widget<QRadioButton>("optOne"), Qt::LeftButton);
+    QTest::mouseClick(Widget<QRadioButton>("optTwo"), Qt::LeftButton);
+    QCOMPARE(Ctl("optOne").Value(), 0);
+    QVERIFY(!Widget<QRadioButton>("optOne")->isChecked());
+    QVERIFY(Widget<QRadioButton>("optTwo")->isChecked());
+    QTest::mouseClick(Widget<QPushButton>("cmdOK"), Qt::LeftButton);
+    QCOMPARE(form_->clicks, 1);
+    QComboBox* combo = Widget<QComboBox>("cboProv");
+    QCOMPARE(combo->count(), 2);
+    emit combo->activated(1);  // the person picks the second row
+    QCOMPARE(Ctl("cboProv").ListIndex(), 1);
+    QCOMPARE(combo->currentText(), QString("QC"));
+  }
+
+  void focusFollowsTheModelAndRefusalsKeepIt() {
+    form_->app().SetFocus(Ctl("txtSecret"));
+    QCOMPARE(QApplication::focusWidget(), Widget<QLineEdit>("txtSecret"));
+    Ctl("fraChoice").SetEnabled(false);
+    QVERIFY(!Widget<QRadioButton>("optOne")->isEnabled());
+    QTest::mouseClick(Widget<QRadioButton>("optOne"), Qt::LeftButton);
+    QCOMPARE(app_->Focused(), &Ctl("txtSecret"));
+    Ctl("fraChoice").SetEnabled(true);
+    QVERIFY(Widget<QRadioButton>("optOne")->isEnabled());
+    // Hiding the focused control moves the focus on, in the widgets too.
+    Ctl("txtSecret").SetVisible(false);
+    QVERIFY(!Widget<QLineEdit>("txtSecret")->isVisible());
+    QCOMPARE(app_->Focused(), &Ctl("chkTick"));
+    QCOMPARE(QApplication::focusWidget(), Widget<QCheckBox>("chkTick"));
+  }
+
+  void theCloseBoxAsksTheModel() {
+    QPointer<FormWindow> window = &Window();
+    window->close();
+    QVERIFY(!form_->IsLoaded());
+    QTRY_VERIFY(window.isNull());  // deleted once its input was over
+  }
+
+  void aDestroyedHostParentTakesTheWindowAndAShowMakesANewOne() {
+    form_->Unload();
+    auto parent = std::make_unique<QWidget>();
+    parent->resize(800, 600);
+    parent->show();
+    view_->SetEmbedParent(parent.get());
+    form_->Show(false);
+    QCOMPARE(Window().parentWidget(), parent.get());
+    QCOMPARE(form_->hWnd(), static_cast<int64_t>(Window().winId()));
+    QTest::keyClicks(Widget<QLineEdit>("txtUpper"), "ab");
+    parent.reset();
+    QVERIFY(view_->WindowOf(*form_) == nullptr);
+    QCOMPARE(Ctl("txtUpper").Text(), "AB");  // the model keeps what was typed
+    form_->Hide();
+    form_->Show(false);
+    QVERIFY(QTest::qWaitForWindowExposed(&Window()));
+    QCOMPARE(Widget<QLineEdit>("txtUpper")->text(), QString("AB"));
+  }
+
+  void aModalShowRunsUntilTheFormCloses() {
+    form_->Unload();
+    QTimer::singleShot(0, this, [this] {
+      QVERIFY(Window().isModal());
+      QTest::keyClicks(Widget<QLineEdit>("txtUpper"), "zz");
+      QTest::mouseClick(Widget<QPushButton>("cmdOK"), Qt::LeftButton);
+      form_->Hide();
+    });
+    form_->Show(true);
+    QCOMPARE(form_->clicks, 1);
+    QCOMPARE(Ctl("txtUpper").Text(), "ZZ");
+    QVERIFY(form_->IsLoaded());
+  }
+
+  void messageBoxesAnswerWithTheirButtons() {
+    QtMessageBoxService boxes;
+    QString seen_title;
+    QMessageBox::Icon seen_icon = QMessageBox::NoIcon;
+    boxes.on_shown = [&](QMessageBox& box) {
+      seen_title = box.windowTitle();
+      seen_icon = box.icon();
+      QCOMPARE(box.defaultButton(), box.button(QMessageBox::No));
+      box.button(QMessageBox::Yes)->click();
+    };
+    QCOMPARE(boxes.Show("Is this biller for an international payment?",
+                        msgbox::kYesNo | msgbox::kInformation | msgbox::kDefaultButton2, "Biller"),
+             msgbox::kYes);
+    QCOMPARE(seen_title, QString("Biller"));
+    QCOMPARE(seen_icon, QMessageBox::Information);
+    boxes.on_shown = [](QMessageBox& box) { box.reject(); };  // Escape, or the close box
+    QCOMPARE(boxes.Show("Sure?", msgbox::kOKCancel | msgbox::kQuestion, "Biller"), msgbox::kCancel);
+  }
+};
+
+}  // namespace
+}  // namespace nvrandom::qt
+
+QTEST_MAIN(nvrandom::qt::ViewInputTest)
+#include "view_input_test.moc"

@@ -1,0 +1,335 @@
+// One update function per kind of control: what the model holds, written into the widget.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStandardItemModel>
+#include <QTableView>
+
+#include "control_record.h"
+#include "picture_resources.h"
+#include "platform/utf8.h"
+#include "qt_units.h"
+
+namespace nvrandom::qt {
+
+using forms::Control;
+using forms::ControlKind;
+using forms::Property;
+
+namespace {
+
+// Data lists show this many rows at once when dropped down.
+constexpr int kVisibleListRows = 15;
+
+// The mask of a password field shows as many characters as its text has.
+QString Masked(const Control& control) {
+  const QString mask = ToQString(control.PasswordChar()).left(1);
+  return QString(static_cast<qsizetype>(utf8::Length(control.Text())),
+                 mask.isEmpty() ? u'*' : mask[0]);
+}
+
+void ShowSelection(QLineEdit& edit, const Control& control) {
+  if (control.SelLength() > 0) {
+    edit.setSelection(control.SelStart(), control.SelLength());
+  } else {
+    edit.setCursorPosition(control.SelStart());
+  }
+}
+
+void ShowEditText(QLineEdit& edit, const Control& control) {
+  const QString shown = ShownText(control);
+  if (edit.text() != shown) edit.setText(shown);
+  ShowSelection(edit, control);
+}
+
+// Labels --------------------------------------------------------------------------------------
+
+QWidget* CreateLabel(ControlRecord&, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setWordWrap(true);
+  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  return label;
+}
+
+void UpdateLabel(ControlRecord& r, Property p) {
+  auto* label = static_cast<QLabel*>(r.widget);
+  if (p == Property::kCaption) label->setText(WithoutAccessKeys(r.control->Caption()));
+  if (p == Property::kBackStyle) label->setAutoFillBackground(r.control->BackStyle() != 0);
+}
+
+// Hyperlinks: a label drawn as a link; its click goes to the model like any other.
+QWidget* CreateHyperLink(ControlRecord&, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  QFont font = label->font();
+  font.setUnderline(true);
+  label->setFont(font);
+  label->setCursor(Qt::PointingHandCursor);
+  label->setStyleSheet(QStringLiteral("color: #0000EE;"));
+  return label;
+}
+
+void UpdateHyperLink(ControlRecord& r, Property p) {
+  if (p == Property::kCaption) {
+    static_cast<QLabel*>(r.widget)->setText(WithoutAccessKeys(r.control->Caption()));
+  }
+}
+
+// Text boxes ----------------------------------------------------------------------------------
+
+QWidget* CreateTextBox(ControlRecord& r, QWidget* parent) {
+  auto* edit = new QLineEdit(parent);
+  // The person's context menu is the model's: its Paste goes through the runtime.
+  edit->setContextMenuPolicy(Qt::NoContextMenu);
+  r.input = edit;
+  return edit;
+}
+
+void UpdateTextBox(ControlRecord& r, Property p) {
+  auto* edit = static_cast<QLineEdit*>(r.widget);
+  switch (p) {
+    case Property::kText:
+    case Property::kPasswordChar:
+      ShowEditText(*edit, *r.control);
+      break;
+    case Property::kSelection:
+      ShowSelection(*edit, *r.control);
+      break;
+    case Property::kLocked:
+      edit->setReadOnly(r.control->Locked());
+      break;
+    default:
+      break;
+  }
+}
+
+// Combo boxes and data lists: an editable box whose edit field takes the keys -----------------
+
+QComboBox* NewCombo(ControlRecord& r, QWidget* parent) {
+  auto* combo = new QComboBox(parent);
+  combo->setEditable(true);
+  combo->setInsertPolicy(QComboBox::NoInsert);
+  combo->setMaxVisibleItems(kVisibleListRows);
+  combo->lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
+  // The model follows typing to the row it names; the box's own completion would type for it.
+  combo->setCompleter(nullptr);
+  r.input = combo->lineEdit();
+  return combo;
+}
+
+void UpdateComboCommon(ControlRecord& r, QComboBox& combo, Property p) {
+  switch (p) {
+    case Property::kListIndex:
+      combo.setCurrentIndex(r.control->ListIndex());
+      ShowEditText(*combo.lineEdit(), *r.control);
+      break;
+    case Property::kText:
+    case Property::kSelection:
+      ShowEditText(*combo.lineEdit(), *r.control);
+      break;
+    case Property::kLocked:
+      combo.lineEdit()->setReadOnly(r.control->Locked());
+      break;
+    default:
+      break;
+  }
+}
+
+QWidget* CreateComboBox(ControlRecord& r, QWidget* parent) {
+  return NewCombo(r, parent);
+}
+
+void UpdateComboBox(ControlRecord& r, Property p) {
+  auto* combo = static_cast<QComboBox*>(r.widget);
+  if (p == Property::kList) {
+    combo->clear();
+    for (int i = 0; i < r.control->ListCount(); ++i) combo->addItem(ToQString(r.control->List(i)));
+    combo->setCurrentIndex(r.control->ListIndex());
+    ShowEditText(*combo->lineEdit(), *r.control);
+  }
+  UpdateComboCommon(r, *combo, p);
+}
+
+// Data lists drop down a table with the named column headings.
+QWidget* CreateDataList(ControlRecord& r, QWidget* parent) {
+  QComboBox* combo = NewCombo(r, parent);
+  auto* model = new QStandardItemModel(combo);
+  auto* table = new QTableView(combo);
+  table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table->verticalHeader()->hide();
+  table->horizontalHeader()->setStretchLastSection(true);
+  table->setShowGrid(false);
+  combo->setModel(model);
+  combo->setView(table);
+  return combo;
+}
+
+void ShowHeadings(const Control& control, QStandardItemModel& model) {
+  QStringList headings;
+  for (const auto& h : control.ColumnHeadings()) headings << ToQString(h);
+  if (model.columnCount() < headings.size()) model.setColumnCount(headings.size());
+  model.setHorizontalHeaderLabels(headings);
+}
+
+void UpdateDataList(ControlRecord& r, Property p) {
+  auto* combo = static_cast<QComboBox*>(r.widget);
+  auto* model = static_cast<QStandardItemModel*>(combo->model());
+  auto* table = static_cast<QTableView*>(combo->view());
+  switch (p) {
+    case Property::kList: {
+      model->clear();
+      for (int i = 0; i < r.control->ListCount(); ++i) {
+        QList<QStandardItem*> items;
+        for (const auto& cell : r.control->Row(i)) items << new QStandardItem(ToQString(cell));
+        model->appendRow(items);
+      }
+      ShowHeadings(*r.control, *model);
+      combo->setModelColumn(r.control->DisplayColumn());
+      table->resizeColumnsToContents();
+      int width = 0;
+      for (int c = 0; c < model->columnCount(); ++c) width += table->columnWidth(c);
+      table->setMinimumWidth(width + 24);
+      combo->setCurrentIndex(r.control->ListIndex());
+      ShowEditText(*combo->lineEdit(), *r.control);
+      break;
+    }
+    case Property::kColumnHeadings:
+      ShowHeadings(*r.control, *model);
+      break;
+    case Property::kDisplayColumn:
+      combo->setModelColumn(r.control->DisplayColumn());
+      ShowEditText(*combo->lineEdit(), *r.control);
+      break;
+    default:
+      break;
+  }
+  UpdateComboCommon(r, *combo, p);
+}
+
+// Check boxes, option buttons, buttons, frames, images ----------------------------------------
+
+QWidget* CreateCheckBox(ControlRecord&, QWidget* parent) {
+  auto* box = new QCheckBox(parent);
+  box->setTristate(true);
+  return box;
+}
+
+void UpdateCheckBox(ControlRecord& r, Property p) {
+  auto* box = static_cast<QCheckBox*>(r.widget);
+  if (p == Property::kCaption) box->setText(ToQString(r.control->Caption()));
+  if (p == Property::kValue) {
+    const int v = r.control->Value();
+    box->setCheckState(v == 1 ? Qt::Checked : v == 2 ? Qt::PartiallyChecked : Qt::Unchecked);
+  }
+}
+
+QWidget* CreateOptionButton(ControlRecord&, QWidget* parent) {
+  auto* button = new QRadioButton(parent);
+  // The model keeps the buttons of a container exclusive.
+  button->setAutoExclusive(false);
+  return button;
+}
+
+void UpdateOptionButton(ControlRecord& r, Property p) {
+  auto* button = static_cast<QRadioButton*>(r.widget);
+  if (p == Property::kCaption) button->setText(ToQString(r.control->Caption()));
+  if (p == Property::kValue) button->setChecked(r.control->Value() != 0);
+}
+
+QWidget* CreateCommandButton(ControlRecord&, QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  button->setAutoDefault(false);
+  return button;
+}
+
+void UpdateCommandButton(ControlRecord& r, Property p) {
+  auto* button = static_cast<QPushButton*>(r.widget);
+  if (p == Property::kCaption) button->setText(ToQString(r.control->Caption()));
+  if (p == Property::kButtonStyle || p == Property::kBackColor || p == Property::kForeColor) {
+    // A graphical button shows its own colours; a standard one the system's.
+    if (r.control->ButtonStyle() == 1) {
+      const QColor back = ToQColor(r.control->BackColor(), button->palette());
+      const QColor fore = ToQColor(r.control->ForeColor(), button->palette());
+      button->setStyleSheet(QStringLiteral("QPushButton { background-color: %1; color: %2; "
+                                           "border: 1px solid #808080; }")
+                                .arg(back.name(), fore.name()));
+    } else {
+      button->setStyleSheet(QString());
+    }
+  }
+}
+
+QWidget* CreateFrame(ControlRecord&, QWidget* parent) {
+  return new QGroupBox(parent);
+}
+
+void UpdateFrame(ControlRecord& r, Property p) {
+  if (p == Property::kCaption) {
+    static_cast<QGroupBox*>(r.widget)->setTitle(ToQString(r.control->Caption()));
+  }
+}
+
+QWidget* CreateImage(ControlRecord& r, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setScaledContents(true);
+  const QPixmap picture = PictureOf(*r.control);
+  if (!picture.isNull()) label->setPixmap(picture);
+  return label;
+}
+
+void UpdateImage(ControlRecord& r, Property p) {
+  if (p == Property::kWidth || p == Property::kHeight) {
+    const QPixmap picture = PictureOf(*r.control);
+    if (!picture.isNull()) static_cast<QLabel*>(r.widget)->setPixmap(picture);
+  }
+}
+
+}  // namespace
+
+QString ShownText(const Control& control) {
+  if (!control.PasswordChar().empty()) return Masked(control);
+  return ToQString(control.Text());
+}
+
+const KindView& ViewOf(ControlKind kind) {
+  static const KindView kLabelView{CreateLabel, UpdateLabel};
+  static const KindView kTextBoxView{CreateTextBox, UpdateTextBox};
+  static const KindView kComboView{CreateComboBox, UpdateComboBox};
+  static const KindView kDataListView{CreateDataList, UpdateDataList};
+  static const KindView kCheckView{CreateCheckBox, UpdateCheckBox};
+  static const KindView kOptionView{CreateOptionButton, UpdateOptionButton};
+  static const KindView kButtonView{CreateCommandButton, UpdateCommandButton};
+  static const KindView kFrameView{CreateFrame, UpdateFrame};
+  static const KindView kImageView{CreateImage, UpdateImage};
+  static const KindView kLinkView{CreateHyperLink, UpdateHyperLink};
+  switch (kind) {
+    case ControlKind::kLabel:
+      return kLabelView;
+    case ControlKind::kTextBox:
+      return kTextBoxView;
+    case ControlKind::kComboBox:
+      return kComboView;
+    case ControlKind::kDataList:
+      return kDataListView;
+    case ControlKind::kCheckBox:
+      return kCheckView;
+    case ControlKind::kOptionButton:
+      return kOptionView;
+    case ControlKind::kCommandButton:
+      return kButtonView;
+    case ControlKind::kFrame:
+      return kFrameView;
+    case ControlKind::kImage:
+      return kImageView;
+    case ControlKind::kHyperLink:
+      return kLinkView;
+  }
+  return kLabelView;
+}
+
+}  // namespace nvrandom::qt

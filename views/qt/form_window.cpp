@@ -1,0 +1,483 @@
+#include "form_window.h"
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QTimer>
+
+#include "control_record.h"
+#include "forms/application.h"
+#include "forms/keystroke.h"
+#include "forms/user_input.h"
+#include "platform/clipboard.h"
+#include "qt_units.h"
+
+namespace nvrandom::qt {
+
+using forms::Control;
+using forms::ControlKind;
+using forms::Property;
+
+namespace {
+
+// The dialogs' fonts are designed at this size.
+constexpr double kPointSize = 8.0;
+
+// The properties every record shows, in the order a fresh widget takes them.
+constexpr Property kAllProperties[] = {
+    Property::kFontName,      Property::kBackColor,    Property::kForeColor,
+    Property::kBackStyle,     Property::kCaption,      Property::kButtonStyle,
+    Property::kMaxLength,     Property::kLocked,       Property::kColumnHeadings,
+    Property::kDisplayColumn, Property::kBoundColumn,  Property::kList,
+    Property::kListIndex,     Property::kPasswordChar, Property::kText,
+    Property::kSelection,     Property::kValue,        Property::kLeft,
+    Property::kEnabled,       Property::kVisible,
+};
+
+int16_t ShiftState(Qt::KeyboardModifiers modifiers) {
+  int16_t shift = 0;
+  if (modifiers & Qt::ShiftModifier) shift |= forms::keys::kShiftMask;
+  if (modifiers & Qt::ControlModifier) shift |= forms::keys::kCtrlMask;
+  if (modifiers & Qt::AltModifier) shift |= 4;
+  return shift;
+}
+
+// The platform's key code of a key that types no character (0: none the model knows).
+int16_t KeyCodeOf(int key) {
+  switch (key) {
+    case Qt::Key_Delete:
+      return forms::keys::kKeyDelete;
+    case Qt::Key_Left:
+      return forms::keys::kKeyLeft;
+    case Qt::Key_Right:
+      return forms::keys::kKeyRight;
+    case Qt::Key_Up:
+      return forms::keys::kKeyUp;
+    case Qt::Key_Down:
+      return forms::keys::kKeyDown;
+    case Qt::Key_Home:
+      return forms::keys::kKeyHome;
+    case Qt::Key_End:
+      return forms::keys::kKeyEnd;
+    case Qt::Key_Insert:
+      return forms::keys::kKeyInsert;
+    default:
+      break;
+  }
+  if (key >= Qt::Key_A && key <= Qt::Key_Z) return static_cast<int16_t>('A' + (key - Qt::Key_A));
+  if (key >= Qt::Key_0 && key <= Qt::Key_9) return static_cast<int16_t>('0' + (key - Qt::Key_0));
+  if (key >= Qt::Key_F1 && key <= Qt::Key_F12)
+    return static_cast<int16_t>(112 + (key - Qt::Key_F1));
+  return 0;
+}
+
+// The character a key types as the platform's KeyPress sees it (0: none).
+int16_t ControlCharacterOf(int key) {
+  switch (key) {
+    case Qt::Key_Tab:
+      return forms::keys::kTab;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return forms::keys::kEnter;
+    case Qt::Key_Backspace:
+      return forms::keys::kBackspace;
+    case Qt::Key_Escape:
+      return 27;
+    default:
+      return 0;
+  }
+}
+
+// Mouse positions in twips from the control's corner, as MouseDown is told.
+float Twips(double pixels, double dpi) {
+  return static_cast<float>(PixelsToTwips(static_cast<int>(pixels), dpi));
+}
+
+int16_t ButtonOf(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return 1;
+    case Qt::RightButton:
+      return 2;
+    case Qt::MiddleButton:
+      return 4;
+    default:
+      return 0;
+  }
+}
+
+}  // namespace
+
+FormWindow::FormWindow(forms::Form& form, double logical_dpi, QWidget* parent)
+    : QWidget(parent, parent == nullptr ? Qt::Dialog : Qt::Widget),
+      form_(&form),
+      dpi_(logical_dpi) {
+  setObjectName(ToQString(form.Name()));
+  setAttribute(Qt::WA_DeleteOnClose, false);
+  // Widgets first, then containers: a control's container may come after it in the table.
+  for (const auto& control : form.Controls()) {
+    auto record = std::make_unique<ControlRecord>();
+    record->control = control.get();
+    record->window = this;
+    record->widget = ViewOf(control->kind()).create(*record, this);
+    if (record->input == nullptr) record->input = record->widget;
+    record->widget->setObjectName(ToQString(control->FullName()));
+    record->widget->setFocusPolicy(control->CanFocus() ? Qt::ClickFocus : Qt::NoFocus);
+    record->widget->installEventFilter(this);
+    if (record->input != record->widget) {
+      record->input->installEventFilter(this);
+      record->input->setFocusPolicy(Qt::ClickFocus);  // a combo box's edit field is its proxy
+    }
+    records_.push_back(std::move(record));
+  }
+  for (auto& record : records_) {
+    if (const Control* container = record->control->Container()) {
+      if (QWidget* parent_widget = WidgetOf(*container)) record->widget->setParent(parent_widget);
+    }
+  }
+  for (auto& record : records_) {
+    ControlRecord* r = record.get();
+    // A choice from a list's drop-down is the person's: the model chooses the row.
+    if (auto* combo = qobject_cast<QComboBox*>(r->widget)) {
+      QObject::connect(combo, &QComboBox::activated, this, [this, r](int row) {
+        if (form_ == nullptr || row < 0 || row >= r->control->ListCount()) return;
+        const bool by_code = r->control->kind() == ControlKind::kDataList;
+        const auto& cells = r->control->Row(row);
+        const auto column = static_cast<size_t>(by_code ? r->control->BoundColumn() : 0);
+        if (column < cells.size()) forms::user::Pick(*r->control, cells[column]);
+        if (form_ != nullptr) Update(*r, Property::kText);
+      });
+    }
+    // The person selects text with the mouse: the model's selection follows.
+    if (auto* edit = qobject_cast<QLineEdit*>(r->input)) {
+      QObject::connect(edit, &QLineEdit::selectionChanged, this, [this, r, edit] {
+        if (form_ == nullptr || r->syncing || !edit->hasSelectedText()) return;
+        forms::user::Select(*r->control, edit->selectionStart(),
+                            static_cast<int>(edit->selectedText().size()));
+      });
+      QObject::connect(edit, &QLineEdit::cursorPositionChanged, this,
+                       [this, r, edit](int, int now) {
+                         if (form_ == nullptr || r->syncing || edit->hasSelectedText()) return;
+                         if (r->control->SelStart() != now || r->control->SelLength() != 0) {
+                           forms::user::Select(*r->control, now, 0);
+                         }
+                       });
+    }
+    ApplyAll(*r);
+  }
+  NameInputs();
+  for (const Property p :
+       {Property::kCaption, Property::kWidth, Property::kBackColor, Property::kFontName}) {
+    FormChanged(p);
+  }
+}
+
+FormWindow::~FormWindow() = default;
+
+// A screen reader reads an input by its label: the label in the same container on the input's
+// line, nearest to its left.
+void FormWindow::NameInputs() {
+  for (auto& input : records_) {
+    const Control& c = *input->control;
+    if (!forms::IsTextKind(c.kind())) continue;
+    const Control* best = nullptr;
+    const int32_t middle = c.Top() + c.Height() / 2;
+    for (const auto& other : records_) {
+      const Control& l = *other->control;
+      if (l.kind() != ControlKind::kLabel || l.Container() != c.Container() ||
+          l.Caption().empty() || l.Left() + l.Width() > c.Left() + 60 || middle < l.Top() ||
+          middle > l.Top() + l.Height() + 60) {
+        continue;
+      }
+      if (best == nullptr || l.Left() > best->Left()) best = &l;
+    }
+    if (best != nullptr) input->input->setAccessibleName(WithoutAccessKeys(best->Caption()));
+  }
+}
+
+void FormWindow::Detach() {
+  form_ = nullptr;
+  for (auto& record : records_) record->control = nullptr;
+}
+
+void FormWindow::ApplyAll(ControlRecord& record) {
+  for (const Property p : kAllProperties) Update(record, p);
+}
+
+QWidget* FormWindow::WidgetOf(const Control& control) const {
+  for (const auto& record : records_) {
+    if (record->control == &control) return record->widget;
+  }
+  return nullptr;
+}
+
+QWidget* FormWindow::WidgetOf(std::string_view name, int index) const {
+  if (form_ == nullptr) return nullptr;
+  const Control* control = form_->Find(name, index);
+  return control != nullptr ? WidgetOf(*control) : nullptr;
+}
+
+QWidget* FormWindow::InputWidgetOf(const Control& control) const {
+  for (const auto& record : records_) {
+    if (record->control == &control) return record->input;
+  }
+  return nullptr;
+}
+
+ControlRecord* FormWindow::RecordOf(const QObject* widget) const {
+  for (const auto& record : records_) {
+    if (record->widget == widget || record->input == widget) return record.get();
+  }
+  return nullptr;
+}
+
+void FormWindow::ControlChanged(Control& control, Property property) {
+  for (auto& record : records_) {
+    if (record->control == &control) {
+      Update(*record, property);
+      return;
+    }
+  }
+}
+
+void FormWindow::Update(ControlRecord& r, Property p) {
+  const Control& c = *r.control;
+  r.syncing = true;
+  switch (p) {
+    case Property::kVisible:
+      r.widget->setVisible(c.Visible());
+      break;
+    case Property::kEnabled:
+      r.widget->setEnabled(c.Enabled());
+      break;
+    case Property::kLeft:
+    case Property::kTop:
+    case Property::kWidth:
+    case Property::kHeight:
+      r.widget->setGeometry(TwipsToPixels(c.Left(), dpi_), TwipsToPixels(c.Top(), dpi_),
+                            TwipsToPixels(c.Width(), dpi_), TwipsToPixels(c.Height(), dpi_));
+      break;
+    case Property::kBackColor:
+    case Property::kForeColor: {
+      QPalette palette = r.widget->palette();
+      const bool text_kind = forms::IsTextKind(c.kind());
+      const QColor back = ToQColor(c.BackColor(), QApplication::palette());
+      const QColor fore = ToQColor(c.ForeColor(), QApplication::palette());
+      palette.setColor(text_kind ? QPalette::Base : QPalette::Window, back);
+      if (!text_kind) palette.setColor(QPalette::Button, back);
+      palette.setColor(text_kind ? QPalette::Text : QPalette::WindowText, fore);
+      palette.setColor(QPalette::ButtonText, fore);
+      r.widget->setPalette(palette);
+      r.widget->setAutoFillBackground(!text_kind &&
+                                      (c.kind() != ControlKind::kLabel || c.BackStyle() != 0));
+      break;
+    }
+    case Property::kFontName: {
+      QFont font = r.widget->font();
+      font.setFamily(ToQString(c.FontName()));
+      font.setPointSizeF(kPointSize);
+      r.widget->setFont(font);
+      break;
+    }
+    default:
+      break;
+  }
+  ViewOf(c.kind()).update(r, p);
+  r.syncing = false;
+}
+
+void FormWindow::FormChanged(Property property) {
+  if (form_ == nullptr) return;
+  switch (property) {
+    case Property::kCaption:
+      setWindowTitle(ToQString(form_->Caption()));
+      break;
+    case Property::kWidth:
+    case Property::kHeight:
+      setFixedSize(TwipsToPixels(form_->Width(), dpi_), TwipsToPixels(form_->Height(), dpi_));
+      break;
+    case Property::kBackColor: {
+      QPalette palette = this->palette();
+      palette.setColor(QPalette::Window, ToQColor(form_->BackColor(), QApplication::palette()));
+      setPalette(palette);
+      setAutoFillBackground(true);
+      break;
+    }
+    case Property::kFontName: {
+      QFont font = this->font();
+      font.setFamily(ToQString(form_->FontName()));
+      font.setPointSizeF(kPointSize);
+      setFont(font);
+      break;
+    }
+    default:
+      break;
+  }
+}
+
+void FormWindow::ShowFocus(Control* control) {
+  if (form_ == nullptr || control == nullptr) return;
+  if (QWidget* input = InputWidgetOf(*control)) {
+    if (!input->hasFocus()) input->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+// The model may refuse a focus the person gave a widget: the keyboard goes back where the model
+// has it, once Qt has finished moving it.
+void FormWindow::SyncFocusLater() {
+  QTimer::singleShot(0, this, [this] {
+    if (form_ == nullptr) return;
+    ShowFocus(form_->ActiveControl());
+  });
+}
+
+void FormWindow::FocusIn(ControlRecord& r) {
+  if (form_ == nullptr || r.control == form_->ActiveControl()) return;
+  forms::user::Focus(*r.control);
+  if (form_ != nullptr && form_->ActiveControl() != r.control) SyncFocusLater();
+}
+
+bool FormWindow::Key(ControlRecord& r, QKeyEvent* event) {
+  Control& c = *r.control;
+  const int16_t shift = ShiftState(event->modifiers());
+  const bool command = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+  // Dropping a list down is the box's own business.
+  if (auto* combo = qobject_cast<QComboBox*>(r.widget);
+      combo != nullptr &&
+      (event->key() == Qt::Key_F4 || (event->key() == Qt::Key_Down && (shift & 4) != 0))) {
+    combo->showPopup();
+    return true;
+  }
+  if (const int16_t ch = ControlCharacterOf(event->key()); ch != 0 && !command) {
+    if (event->key() == Qt::Key_Tab || ch != forms::keys::kTab) forms::user::Key(c, ch);
+    return true;
+  }
+  if (event->key() == Qt::Key_Backtab) return true;
+  const QString text = event->text();
+  if (!command && !text.isEmpty() && text[0].isPrint()) {
+    forms::user::Type(c, ToUtf8(text));
+    return true;
+  }
+  if (const int16_t code = KeyCodeOf(event->key()); code != 0) {
+    forms::user::KeyDown(c, code, shift);
+  }
+  return true;
+}
+
+bool FormWindow::Mouse(ControlRecord& r, QEvent* event) {
+  auto* me = static_cast<QMouseEvent*>(event);
+  Control& c = *r.control;
+  const int16_t button = ButtonOf(me->button());
+  const int16_t shift = ShiftState(me->modifiers());
+  const float x = Twips(me->position().x(), dpi_);
+  const float y = Twips(me->position().y(), dpi_);
+  const bool text_kind = forms::IsTextKind(c.kind());
+  if (text_kind) {
+    if (me->button() != Qt::RightButton) {
+      // The edit field places the caret and selects; the model hears the buttons.
+      if (event->type() == QEvent::MouseButtonPress) forms::user::MouseDown(c, button, shift, x, y);
+      if (event->type() == QEvent::MouseButtonRelease) forms::user::MouseUp(c, button, shift, x, y);
+      return false;
+    }
+    // The right button opens the edit menu; its Paste goes through the model.
+    if (event->type() != QEvent::MouseButtonRelease) return true;
+    QMenu menu(this);
+    QAction* paste = menu.addAction(QObject::tr("&Paste"));
+    paste->setEnabled(c.Enabled() && !c.Locked());
+    const QPoint at = me->globalPosition().toPoint();
+    if (menu.exec(at) == paste && form_ != nullptr) {
+      forms::user::MenuPaste(c, c.form().app().clipboard().Text());
+    } else if (form_ != nullptr) {
+      forms::user::MouseDown(c, button, shift, x, y);
+      if (form_ != nullptr) forms::user::MouseUp(c, button, shift, x, y);
+    }
+    return true;
+  }
+  if (c.kind() == ControlKind::kComboBox || c.kind() == ControlKind::kDataList) return false;
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+      if (c.CanFocus() && me->button() == Qt::LeftButton) forms::user::Focus(c);
+      if (form_ != nullptr) forms::user::MouseDown(c, button, shift, x, y);
+      return true;
+    case QEvent::MouseButtonRelease:
+      forms::user::MouseUp(c, button, shift, x, y);
+      if (form_ != nullptr && me->button() == Qt::LeftButton &&
+          r.widget->rect().contains(me->position().toPoint())) {
+        forms::user::Click(c);
+      }
+      return true;
+    case QEvent::MouseButtonDblClick:
+      if (me->button() == Qt::LeftButton) forms::user::DoubleClick(c);
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  ControlRecord* r = RecordOf(watched);
+  if (r == nullptr) return QWidget::eventFilter(watched, event);
+  if (form_ == nullptr) {
+    // Unloaded, not yet deleted: the person can no longer act on it.
+    switch (event->type()) {
+      case QEvent::KeyPress:
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::InputMethod:
+        return true;
+      default:
+        return false;
+    }
+  }
+  switch (event->type()) {
+    case QEvent::KeyPress:
+      return Key(*r, static_cast<QKeyEvent*>(event));
+    case QEvent::KeyRelease:
+      return true;
+    case QEvent::InputMethod: {
+      // Composed text (an input method) is typed as its characters.
+      const QString text = static_cast<QInputMethodEvent*>(event)->commitString();
+      if (!text.isEmpty()) forms::user::Type(*r->control, ToUtf8(text));
+      return true;
+    }
+    case QEvent::FocusIn: {
+      const auto reason = static_cast<QFocusEvent*>(event)->reason();
+      if (reason != Qt::OtherFocusReason && reason != Qt::ActiveWindowFocusReason &&
+          reason != Qt::PopupFocusReason) {
+        FocusIn(*r);
+      }
+      return false;
+    }
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+      return Mouse(*r, event);
+    case QEvent::ContextMenu:
+      return true;
+    default:
+      return false;
+  }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  if (form_ == nullptr) {
+    event->accept();
+    return;
+  }
+  // The model decides (QueryUnload may cancel); the window goes when the form is unloaded.
+  event->ignore();
+  forms::user::CloseBox(*form_);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  event->accept();
+}
+
+}  // namespace nvrandom::qt

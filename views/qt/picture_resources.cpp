@@ -1,0 +1,35 @@
+#include "picture_resources.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QSvgRenderer>
+
+#include "forms/form.h"
+#include "qt_units.h"
+
+// The pictures are compiled into the library; a static library's resources are registered
+// by hand.
+static void RegisterPictures() {
+  Q_INIT_RESOURCE(pictures);
+}
+
+namespace nvrandom::qt {
+
+QPixmap PictureOf(const forms::Control& control) {
+  static const bool registered = (RegisterPictures(), true);
+  (void)registered;
+  const QString path = QStringLiteral(":/nvrandom/pictures/%1.%2.svg")
+                           .arg(ToQString(control.form().Name()), ToQString(control.Name()));
+  if (!QFile::exists(path)) return {};
+  const double dpi = ScreenDpi();
+  const QSize size(TwipsToPixels(control.Width(), dpi), TwipsToPixels(control.Height(), dpi));
+  if (size.isEmpty()) return {};
+  QSvgRenderer renderer(path);
+  QPixmap pixmap(size);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  renderer.render(&painter);
+  return pixmap;
+}
+
+}  // namespace nvrandom::qt
