@@ -261,6 +261,9 @@ void UpdateCommandButton(ControlRecord& r, Property p) {
     } else {
       button->setStyleSheet(QString());
     }
+    // A styled button's style 2 is the flat look of the modern form styles.
+    button->setFlat(r.control->kind() == ControlKind::kStyledButton &&
+                    r.control->ButtonStyle() == 2);
   }
 }
 
@@ -321,6 +324,7 @@ const KindView& ViewOf(ControlKind kind) {
     case ControlKind::kOptionButton:
       return kOptionView;
     case ControlKind::kCommandButton:
+    case ControlKind::kStyledButton:
       return kButtonView;
     case ControlKind::kFrame:
       return kFrameView;
