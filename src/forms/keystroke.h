@@ -29,6 +29,15 @@ inline constexpr int16_t kKeyV = 86;
 inline constexpr int16_t kKeyX = 88;
 inline constexpr int16_t kShiftMask = 1;
 inline constexpr int16_t kCtrlMask = 2;
+// MouseDown's buttons.
+inline constexpr int16_t kLeftButton = 1;
+inline constexpr int16_t kRightButton = 2;
+
+// Whether a KeyDown is the platform's paste: Shift+Insert or Control+V.
+constexpr bool IsPasteKeyDown(int16_t key_code, int16_t shift) {
+  return (key_code == kKeyInsert && shift == kShiftMask) ||
+         (key_code == kKeyV && shift == kCtrlMask);
+}
 }  // namespace keys
 
 struct KeyCodeAndShift {

@@ -114,7 +114,7 @@ bool MenuPaste(Control& control, std::string_view text) {
   Application& app = control.form().app();
   if (!FocusWithin(control)) return false;
   app.clipboard().SetText(std::string(text));
-  constexpr int16_t kRightButton = 2;
+  using keys::kRightButton;
   if (control.events.MouseDown) control.events.MouseDown(kRightButton, 0, 0.0F, 0.0F);
   if (control.events.MouseUp) control.events.MouseUp(kRightButton, 0, 0.0F, 0.0F);
   if (!Application::Available(control) || !IsTextKind(control.kind()) || control.Locked()) {

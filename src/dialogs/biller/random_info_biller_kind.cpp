@@ -3,11 +3,12 @@
 #include "dialogs/biller/frm_random_info.h"
 #include "forms/application.h"
 #include "forms/control.h"
+#include "forms/keystroke.h"
 
 namespace nvrandom {
 
 namespace {
-constexpr int16_t kEnter = 13;
+using forms::keys::kEnter;
 }  // namespace
 
 void frmRandomInfo::SetBusinessNumberEntry(bool enabled) {

@@ -8,15 +8,16 @@
 #include "dialogs/biller/random_info_codes.h"
 #include "forms/application.h"
 #include "forms/control.h"
+#include "forms/keystroke.h"
 #include "platform/ascii.h"
 
 namespace nvrandom {
 
 namespace {
 
-constexpr int16_t kBackspace = 8;
-constexpr int16_t kEnter = 13;
-constexpr int16_t kPasteKey = 22;
+using forms::keys::kBackspace;
+using forms::keys::kEnter;
+constexpr int16_t kPasteKey = forms::keys::kPaste;
 constexpr int16_t kDoubleQuote = 34;
 
 // The characters a field takes; anything else is discarded.

@@ -9,14 +9,15 @@
 #include "dialogs/biller/random_info_codes.h"
 #include "dialogs/biller/random_info_texts.h"
 #include "forms/control.h"
+#include "forms/keystroke.h"
 #include "validation/text.h"
 
 namespace nvrandom {
 
 namespace {
 
-constexpr int16_t kBackspace = 8;
-constexpr int16_t kEnter = 13;
+using forms::keys::kBackspace;
+using forms::keys::kEnter;
 
 struct Currency {
   const char* code;

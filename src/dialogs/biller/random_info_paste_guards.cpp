@@ -5,17 +5,14 @@
 #include "component/context.h"
 #include "dialogs/biller/frm_random_info.h"
 #include "forms/control.h"
+#include "forms/keystroke.h"
 #include "platform/clipboard.h"
 
 namespace nvrandom {
 
 namespace {
 
-constexpr int16_t kKeyInsert = 45;
-constexpr int16_t kKeyV = 86;
-constexpr int16_t kShift = 1;
-constexpr int16_t kControl = 2;
-constexpr int16_t kRightButton = 2;
+using forms::keys::kRightButton;
 
 constexpr std::array<const char*, 9> kTypedOnly = {
     "txtBankID",       "txtTransit",     "txtAccount",           "txtTransitConf",
@@ -29,7 +26,7 @@ void frmRandomInfo::BindPasteGuards() {
     const std::string key_down = std::string(box) + "_KeyDown";
     On(box).KeyDown = [this, key_down](int16_t& KeyCode, int16_t& Shift) {
       RunProcedure(key_down, [&] {
-        if ((KeyCode == kKeyInsert && Shift == kShift) || (KeyCode == kKeyV && Shift == kControl)) {
+        if (forms::keys::IsPasteKeyDown(KeyCode, Shift)) {
           KeyCode = 0;
         }
       });

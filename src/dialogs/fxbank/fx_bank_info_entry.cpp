@@ -46,7 +46,7 @@ constexpr std::array<const char*, 8> kGuardedBoxes = {
     "txtSwiftNumber", "txtBankAccount",   "txtSwiftNumberConf", "txtBankAccountConf",
     "txtUSABA",       "txtUSBankAccount", "txtUSABAConf",       "txtUSBankAccountConf"};
 
-constexpr int16_t kRightButton = 2;
+using forms::keys::kRightButton;
 
 std::string UpperCase(std::string text) {
   for (char& c : text) c = ascii::ToUpper(c);
@@ -93,9 +93,7 @@ void frmFXBankInfo::BindPasteGuards() {
 void frmFXBankInfo::PasteGuard_KeyDown(const std::string& box, int16_t& KeyCode, int16_t& Shift) {
   const std::string label = fx_bank_info_text::kGuardLabelPrefix + box + "_KeyDown";
   TraceEntry(ctx_, label);
-  const bool shift_insert = KeyCode == forms::keys::kKeyInsert && Shift == forms::keys::kShiftMask;
-  const bool control_v = KeyCode == forms::keys::kKeyV && Shift == forms::keys::kCtrlMask;
-  if (shift_insert || control_v) KeyCode = 0;
+  if (forms::keys::IsPasteKeyDown(KeyCode, Shift)) KeyCode = 0;
 }
 
 void frmFXBankInfo::PasteGuard_MouseDown(const std::string& box, int16_t Button) {
