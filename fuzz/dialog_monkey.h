@@ -265,7 +265,7 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
   static Masks RememberMasks(forms::Form& form) {
     Masks masks;
     for (const auto& control : form.Controls()) {
-      if (control->kind() == forms::ControlKind::kTextBox) {
+      if (forms::IsTextKind(control->kind())) {
         masks[control.get()] = {!control->PasswordChar().empty(), control->Text()};
       }
     }
@@ -279,11 +279,15 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
     }
     forms::Form* form = app_.ActiveForm();
     if (form == nullptr) return;
+    // What the person types or pastes never takes a text past its maximum. A longer value that
+    // the dialog itself put there (a stored value kept whole) may stay, but must not grow.
     for (const auto& control : form->Controls()) {
-      if (!forms::IsTextKind(control->kind())) continue;
-      if (control->MaxLength() > 0 &&
-          utf8::Length(control->Text()) > static_cast<size_t>(control->MaxLength())) {
-        Violated(control->Name() + " holds more than its maximum length");
+      if (!forms::IsTextKind(control->kind()) || control->MaxLength() <= 0) continue;
+      const size_t length = utf8::Length(control->Text());
+      if (length <= static_cast<size_t>(control->MaxLength())) continue;
+      const auto before = masks.find(control.get());
+      if (before != masks.end() && length > utf8::Length(before->second.second)) {
+        Violated(control->Name() + " grew past its maximum length");
       }
     }
     // Outside a button press nothing masks a box, and an edited box is shown in clear.
