@@ -82,6 +82,20 @@ Control* Application::NextTabStop(const Control& from) {
   return next != nullptr ? next : first;
 }
 
+Control* Application::PreviousTabStop(const Control& from) {
+  Control* previous = nullptr;
+  Control* last = nullptr;
+  for (const auto& c : from.form().Controls()) {
+    if (!c->TabStop() || c.get() == &from || !Available(*c)) continue;
+    if (last == nullptr || c->TabIndex() > last->TabIndex()) last = c.get();
+    if (c->TabIndex() < from.TabIndex() &&
+        (previous == nullptr || c->TabIndex() > previous->TabIndex())) {
+      previous = c.get();
+    }
+  }
+  return previous != nullptr ? previous : last;
+}
+
 bool Application::SetFocus(Control& control) {
   Form& form = control.form();
   if (!Available(control) || ActiveForm() != &form) {

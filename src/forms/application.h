@@ -99,6 +99,8 @@ class Application {
   // The next control after `from` in tab order that can take the focus, wrapping round to the
   // first; nullptr when no other control can.
   static Control* NextTabStop(const Control& from);
+  // The available tab stop before `from` in tab order, wrapping round to the last (Shift+Tab).
+  static Control* PreviousTabStop(const Control& from);
   // Moves the focus (LostFocus on the old control with ActiveControl already moved, then
   // GotFocus). A request for an unavailable control leaves the focus where it is, raises nothing
   // and is reported to the observers; returns false then.

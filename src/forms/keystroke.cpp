@@ -96,6 +96,10 @@ void MoveCaret(Control& c, int to, bool extend) {
 
 // What a key that types no character does to the control that has the focus.
 void EditingAction(Control& c, int16_t key_code, int16_t shift) {
+  if (key_code == keys::kKeyTab && shift == keys::kShiftMask) {
+    if (Control* previous = Application::PreviousTabStop(c)) c.form().app().SetFocus(*previous);
+    return;
+  }
   if (!IsTextKind(c.kind())) return;
   const bool extend = (shift & keys::kShiftMask) != 0;
   const int end = static_cast<int>(utf8::Length(c.Text()));

@@ -16,6 +16,7 @@ inline constexpr int16_t kEnter = 13;
 inline constexpr int16_t kCopy = 3;    // Control+C as a character
 inline constexpr int16_t kPaste = 22;  // Control+V as a character
 inline constexpr int16_t kCut = 24;    // Control+X as a character
+inline constexpr int16_t kKeyTab = 9;  // with kShiftMask: Shift+Tab, which types no character
 inline constexpr int16_t kKeyEnd = 35;
 inline constexpr int16_t kKeyHome = 36;
 inline constexpr int16_t kKeyLeft = 37;
@@ -60,7 +61,8 @@ std::vector<char32_t> DecodeKeys(std::string_view keys);
 bool Keystroke(Control& control, char32_t character);
 
 // One physical key that types no character of its own: KeyDown, then unless discarded the key's
-// editing action (Delete, arrows, Home, End, Shift+Insert paste; Control+C, Control+V and
+// editing action (Delete, arrows, Home, End, Shift+Insert paste, Shift+Tab to the previous tab
+// stop; Control+C, Control+V and
 // Control+X go on as the KeyPress of their control character), then KeyUp. False when
 // discarded.
 bool PhysicalKey(Control& control, int16_t key_code, int16_t shift);

@@ -93,10 +93,11 @@ bool MouseUp(Control& control, int16_t button, int16_t shift, float x, float y) 
 
 bool DoubleClick(Control& control) {
   const Input input(control.form());
-  if (!Click(control)) return false;
-  if (control.form().app().TakesInput(control) && control.events.DblClick) {
-    control.events.DblClick();
+  if (IsButtonKind(control.kind()) || control.kind() == ControlKind::kCheckBox) {
+    return Click(control);
   }
+  if (!control.form().app().TakesInput(control)) return false;
+  if (control.events.DblClick) control.events.DblClick();
   return true;
 }
 

@@ -30,7 +30,9 @@ bool Select(Control& control, int start, int length);
 // and released.
 bool MouseDown(Control& control, int16_t button, int16_t shift = 0, float x = 0.0F, float y = 0.0F);
 bool MouseUp(Control& control, int16_t button, int16_t shift = 0, float x = 0.0F, float y = 0.0F);
-// A double click: the Click of the first press, then DblClick.
+// The second press of a double click, whose first press was a Click: DblClick. Command buttons
+// and check boxes have no DblClick; their second press is another Click (a check box toggles
+// back).
 bool DoubleClick(Control& control);
 // Puts `text` on the clipboard and pastes with Control+V (which a handler may refuse).
 bool Paste(Control& control, std::string_view text);

@@ -15,7 +15,8 @@ struct ControlRecord {
   QWidget* widget = nullptr;  // placed on the form (or in its container)
   QWidget* input = nullptr;   // takes the keyboard: the widget itself, or a combo box's edit field
   FormWindow* window = nullptr;
-  bool syncing = false;  // the model's values are being written into the widget
+  bool syncing = false;         // the model's values are being written into the widget
+  bool double_clicked = false;  // the left button's second press; its release is no Click
 };
 
 // How one kind of control is shown: the widget it gets and the update of its own properties

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QTimer>
+#include <utility>
 
 #include "control_record.h"
 #include "forms/application.h"
@@ -354,11 +355,16 @@ bool FormWindow::Key(ControlRecord& r, QKeyEvent* event) {
     combo->showPopup();
     return true;
   }
+  if (event->key() == Qt::Key_Backtab ||
+      (event->key() == Qt::Key_Tab && shift == forms::keys::kShiftMask)) {
+    forms::user::KeyDown(c, forms::keys::kKeyTab, forms::keys::kShiftMask);
+    return true;
+  }
   if (const int16_t ch = ControlCharacterOf(event->key()); ch != 0 && !command) {
     if (event->key() == Qt::Key_Tab || ch != forms::keys::kTab) forms::user::Key(c, ch);
     return true;
   }
-  if (event->key() == Qt::Key_Backtab) return true;
+
   const QString text = event->text();
   if (!command && !text.isEmpty() && text[0].isPrint()) {
     forms::user::Type(c, ToUtf8(text));
@@ -380,9 +386,15 @@ bool FormWindow::Mouse(ControlRecord& r, QEvent* event) {
   const bool text_kind = forms::IsTextKind(c.kind());
   if (text_kind) {
     if (me->button() != Qt::RightButton) {
-      // The edit field places the caret and selects; the model hears the buttons.
-      if (event->type() == QEvent::MouseButtonPress) forms::user::MouseDown(c, button, shift, x, y);
-      if (event->type() == QEvent::MouseButtonRelease) forms::user::MouseUp(c, button, shift, x, y);
+      // The edit field places the caret and selects; the model hears the buttons, and a text
+      // box its clicks (a list's Click is the choice of a row, made by the list itself).
+      if (c.kind() == ControlKind::kTextBox) {
+        Clicks(r, event);
+      } else if (event->type() == QEvent::MouseButtonPress) {
+        forms::user::MouseDown(c, button, shift, x, y);
+      } else if (event->type() == QEvent::MouseButtonRelease) {
+        forms::user::MouseUp(c, button, shift, x, y);
+      }
       return false;
     }
     // The right button opens the edit menu; its Paste goes through the model.
@@ -400,23 +412,45 @@ bool FormWindow::Mouse(ControlRecord& r, QEvent* event) {
     return true;
   }
   if (c.kind() == ControlKind::kComboBox || c.kind() == ControlKind::kDataList) return false;
+  if (event->type() == QEvent::MouseButtonPress && c.CanFocus() && me->button() == Qt::LeftButton) {
+    forms::user::Focus(c);
+  }
+  if (form_ != nullptr) Clicks(r, event);
+  return true;
+}
+
+// Qt reports a double click as press, release, double click, release: the first release is the
+// Click, the double click is the second press (DblClick, or a second Click where the control has
+// none), and the release that ends it clicks nothing more.
+void FormWindow::Clicks(ControlRecord& r, QEvent* event) {
+  auto* me = static_cast<QMouseEvent*>(event);
+  Control& c = *r.control;
+  const int16_t button = ButtonOf(me->button());
+  const int16_t shift = ShiftState(me->modifiers());
+  const float x = Twips(me->position().x(), dpi_);
+  const float y = Twips(me->position().y(), dpi_);
+  const bool left = me->button() == Qt::LeftButton;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
-      if (c.CanFocus() && me->button() == Qt::LeftButton) forms::user::Focus(c);
-      if (form_ != nullptr) forms::user::MouseDown(c, button, shift, x, y);
-      return true;
-    case QEvent::MouseButtonRelease:
+      forms::user::MouseDown(c, button, shift, x, y);
+      break;
+    case QEvent::MouseButtonDblClick:
+      if (left) {
+        r.double_clicked = true;
+        forms::user::DoubleClick(c);
+      }
+      break;
+    case QEvent::MouseButtonRelease: {
+      const bool ends_double_click = left && std::exchange(r.double_clicked, false);
       forms::user::MouseUp(c, button, shift, x, y);
-      if (form_ != nullptr && me->button() == Qt::LeftButton &&
+      if (form_ != nullptr && left && !ends_double_click &&
           r.widget->rect().contains(me->position().toPoint())) {
         forms::user::Click(c);
       }
-      return true;
-    case QEvent::MouseButtonDblClick:
-      if (me->button() == Qt::LeftButton) forms::user::DoubleClick(c);
-      return true;
+      break;
+    }
     default:
-      return false;
+      break;
   }
 }
 

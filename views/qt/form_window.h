@@ -50,6 +50,7 @@ class FormWindow final : public QWidget {
   void Update(ControlRecord& record, forms::Property property);
   bool Key(ControlRecord& record, QKeyEvent* event);
   bool Mouse(ControlRecord& record, QEvent* event);
+  void Clicks(ControlRecord& record, QEvent* event);
   void FocusIn(ControlRecord& record);
   void SyncFocusLater();
 

@@ -29,6 +29,7 @@ void LogEvents(forms::Control& c, Log& log) {
   c.events.KeyUp = [&log](int16_t& k, int16_t&) { log.push_back("KeyUp " + std::to_string(k)); };
   c.events.Change = [&log] { log.push_back("Change"); };
   c.events.Click = [&log] { log.push_back("Click"); };
+  c.events.DblClick = [&log] { log.push_back("DblClick"); };
 }
 
 Act TypeText(const char* s) {
@@ -328,6 +329,25 @@ TEST(Input, ListsFollowTypingAndChoices) {
     forms::user::Pick(list, "Two");
     EXPECT_EQ(log, events) << name;
     EXPECT_EQ(list.Text(), "Two") << name;
+  }
+}
+
+// A double click is a Click, then the second press: DblClick, except on the controls that have
+// none, where it is a second Click (a check box toggles back).
+TEST(Input, ADoubleClickIsAClickThenDblClickOrASecondClick) {
+  for (const auto& [name, events] : {std::pair{"txtCode", Log{"Click", "DblClick"}},
+                                     {"optA", Log{"Click", "DblClick"}},
+                                     {"cmdGo", Log{"Click", "Click"}},
+                                     {"chkFlag", Log{"Click", "Click"}}}) {
+    Harness h;
+    h.form->Show();
+    forms::Control& c = h.C(name);
+    Log log;
+    LogEvents(c, log);
+    forms::user::Click(c);
+    forms::user::DoubleClick(c);
+    EXPECT_EQ(log, events) << name;
+    EXPECT_EQ(c.Value(), c.kind() == K::kOptionButton ? -1 : 0) << name;
   }
 }
 
