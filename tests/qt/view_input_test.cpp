@@ -18,7 +18,7 @@
 #include "form_window.h"
 #include "forms/application.h"
 #include "forms/form.h"
-#include "qt_integration.h"
+#include "qt_fonts.h"
 #include "qt_services.h"
 #include "qt_view.h"
 

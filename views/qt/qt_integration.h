@@ -43,9 +43,4 @@ class Integration {
   std::unique_ptr<QtView> view_;
 };
 
-// Makes the fonts the dialogs name available: "MS Sans Serif" and "Tahoma" from the free fonts
-// of those names that Debian's fonts-wine ships, "Segoe UI" as a metric-close free font.
-// Idempotent; called by Integration.
-void InstallDialogFonts();
-
 }  // namespace nvrandom::qt
