@@ -118,6 +118,7 @@ int DemoCommand(int argc, char** argv, std::ostream& out, std::ostream& err) {
     }
     ScriptedSession session(sample_folder, ctx.forms(), integration.view());
     if (boxes != nullptr) boxes->on_shown = [&session](QMessageBox& box) { session.Answer(box); };
+    ctx.store = ComponentStore{};  // each sample is a biller of its own, from the defaults up
     ClsRandom biller;
     LoadSample(biller, sample, tree.install());
     QTimer::singleShot(0, [&session] { session.Run(); });

@@ -1,0 +1,269 @@
+// The dialogs as a person sees them: each layout drawn at its designed size, every caption
+// readable in the font the view really uses, the dialogs' fonts found, the cheque's picture drawn.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QFontInfo>
+#include <QGroupBox>
+#include <QImage>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScopeGuard>
+#include <QStyle>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+
+#include "api/cls_random.h"
+#include "app/thread_context.h"
+#include "component/context.h"
+#include "demo_samples.h"
+#include "form_window.h"
+#include "forms/form.h"
+#include "installation_tree.h"
+#include "qt_fonts.h"
+#include "qt_integration.h"
+#include "qt_services.h"
+#include "qt_units.h"
+#include "qt_view.h"
+
+namespace nvrandom::qt {
+namespace {
+
+// Why a shown widget's caption does not fit its designed box ("" when it fits).
+QString Clipping(QWidget& widget) {
+  const QFontMetrics metrics(widget.font());
+  const QString name = widget.objectName();
+  auto too_small = [&](const QString& text, int needed, int room) {
+    return QStringLiteral("%1 needs %2 px for \"%3\", has %4")
+        .arg(name)
+        .arg(needed)
+        .arg(text)
+        .arg(room);
+  };
+  if (auto* label = qobject_cast<QLabel*>(&widget)) {
+    const QString text = label->text();
+    if (text.isEmpty() || !label->pixmap().isNull()) return {};
+    const QRect room = label->contentsRect();
+    const QRect used = metrics.boundingRect(QRect(0, 0, room.width(), 1 << 20),
+                                            Qt::TextWordWrap | Qt::AlignLeft, text);
+    if (used.width() > room.width()) return too_small(text, used.width(), room.width());
+    if (used.height() > room.height()) {
+      return QStringLiteral("%1 shows %2 of %3 px of the lines of \"%4\"")
+          .arg(name)
+          .arg(room.height())
+          .arg(used.height())
+          .arg(text);
+    }
+    return {};
+  }
+  if (qobject_cast<QCheckBox*>(&widget) != nullptr ||
+      qobject_cast<QRadioButton*>(&widget) != nullptr) {
+    // The box, its spacing and the text: the widget's own size hint.
+    const QString text = static_cast<QAbstractButton&>(widget).text();
+    const int needed = widget.sizeHint().width();
+    return needed > widget.width() ? too_small(text, needed, widget.width()) : QString();
+  }
+  if (auto* button = qobject_cast<QPushButton*>(&widget)) {
+    const QString text = button->text().remove(u'&');
+    const int margin = widget.style()->pixelMetric(QStyle::PM_ButtonMargin, nullptr, &widget);
+    const int needed = metrics.horizontalAdvance(text) + 2 * margin;
+    return needed > widget.width() ? too_small(text, needed, widget.width()) : QString();
+  }
+  if (auto* frame = qobject_cast<QGroupBox*>(&widget)) {
+    const QString text = frame->title().remove(u'&');
+    // The title and the frame's line on either side of it: the box's own least width.
+    const int needed = frame->minimumSizeHint().width();
+    return needed > widget.width() ? too_small(text, needed, widget.width()) : QString();
+  }
+  return {};
+}
+
+// Every clipped caption among the window's shown widgets.
+QStringList ClippedCaptions(QWidget& window) {
+  QStringList clipped;
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    if (!widget->isVisibleTo(&window) || widget->objectName().isEmpty()) continue;
+    if (const QString why = Clipping(*widget); !why.isEmpty()) clipped << why;
+  }
+  return clipped;
+}
+
+// The window drawn and saved as a PNG, read back.
+QImage SavedPicture(QWidget& window, const QTemporaryDir& folder) {
+  const QString file = folder.filePath(window.objectName() + QStringLiteral(".png"));
+  if (!window.grab().save(file, "PNG")) return {};
+  return QImage(file);
+}
+
+// A picture that shows something: more than a handful of colours, and no colour covering
+// almost all of it.
+bool ShowsSomething(const QImage& image) {
+  QHash<QRgb, qsizetype> counts;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
+  }
+  qsizetype largest = 0;
+  for (const qsizetype n : counts) largest = std::max(largest, n);
+  const qsizetype all = qsizetype{image.width()} * image.height();
+  return counts.size() > 4 && largest < all * 97 / 100;
+}
+
+QSize DesignedSize(const forms::Form& form) {
+  const double dpi = ScreenDpi();
+  return {TwipsToPixels(form.Width(), dpi), TwipsToPixels(form.Height(), dpi)};
+}
+
+class LayoutTest : public QObject {
+  Q_OBJECT
+
+ private:
+  std::unique_ptr<Integration> integration_;
+  std::unique_ptr<scenario::InstallationTree> tree_;
+  QTemporaryDir pictures_;
+  QStringList messages_;
+
+  forms::Form* Loaded(std::string_view name) const {
+    for (const auto& form : app::ThreadContext().forms().LoadedForms()) {
+      if (form->Name() == name) return form.get();
+    }
+    return nullptr;
+  }
+  FormWindow* WindowOf(std::string_view name) const {
+    forms::Form* form = Loaded(name);
+    return form != nullptr ? integration_->view().WindowOf(*form) : nullptr;
+  }
+
+  // The window of the form a click opens modally, checked while it is open, then closed.
+  void CheckOpenedBy(QWidget& button, std::string_view form_name,
+                     const std::function<void(FormWindow&)>& check) {
+    bool checked = false;
+    QTimer::singleShot(0, this, [&] {
+      // Closed however the checks end, so that the modal show returns.
+      const auto close = qScopeGuard([&] {
+        if (FormWindow* window = WindowOf(form_name)) window->close();
+      });
+      FormWindow* window = WindowOf(form_name);
+      QVERIFY2(window != nullptr, form_name.data());
+      QVERIFY(QTest::qWaitForWindowExposed(window));
+      check(*window);
+      checked = true;
+    });
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QVERIFY(checked);
+    QVERIFY(Loaded(form_name) == nullptr || WindowOf(form_name) == nullptr ||
+            !WindowOf(form_name)->isVisible());
+  }
+
+  void CheckDrawing(FormWindow& window) {
+    const QImage picture = SavedPicture(window, pictures_);
+    QCOMPARE(picture.size(), DesignedSize(*window.form()));
+    QVERIFY2(ShowsSomething(picture), qPrintable(window.objectName()));
+    const QStringList clipped = ClippedCaptions(window);
+    QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(u'\n')));
+  }
+
+ private slots:
+  void initTestCase() {
+    integration_ = std::make_unique<Integration>();
+    tree_ = std::make_unique<scenario::InstallationTree>();
+    QVERIFY(tree_->ok());
+    QVERIFY(pictures_.isValid());
+    // A message box would wait for a person: none is expected while the layouts are shown.
+    auto* boxes =
+        dynamic_cast<QtMessageBoxService*>(app::ThreadContext().services.message_box.get());
+    QVERIFY(boxes != nullptr);
+    boxes->on_shown = [this](QMessageBox& box) {
+      messages_ << box.text();
+      box.reject();
+    };
+  }
+  void init() { app::ThreadContext().store = ComponentStore{}; }
+  void cleanup() { QVERIFY2(messages_.isEmpty(), qPrintable(messages_.join(u'\n'))); }
+  void cleanupTestCase() {
+    integration_.reset();
+    tree_.reset();
+  }
+
+  // A font the dialogs name resolves to the free font it is mapped to, not to a default face.
+  void theDialogsFontsAreFound_data() {
+    QTest::addColumn<QString>("named");
+    QTest::addColumn<QString>("drawn");
+    QTest::newRow("MS Sans Serif") << "MS Sans Serif"
+                                   << "MS Sans Serif";
+    QTest::newRow("Tahoma") << "Tahoma"
+                            << "Tahoma";
+    QTest::newRow("Segoe UI") << "Segoe UI"
+                              << "Open Sans";
+  }
+  void theDialogsFontsAreFound() {
+    QFETCH(QString, named);
+    QFETCH(QString, drawn);
+    QFont font(named);
+    font.setPointSizeF(8.0);
+    QCOMPARE(QFontInfo(font).family(), drawn);
+  }
+
+  // Each layout of the biller dialog: drawn at its size, nothing clipped, in the dialog's font.
+  void eachLayoutIsDrawnWhole_data() {
+    QTest::addColumn<QString>("sample");
+    for (const std::string_view sample : demo::SampleNames()) {
+      QTest::newRow(sample.data()) << QString::fromLatin1(sample.data(), sample.size());
+    }
+  }
+  void eachLayoutIsDrawnWhole() {
+    QFETCH(QString, sample);
+    ClsRandom biller;
+    demo::LoadSample(biller, sample.toStdString(), tree_->install());
+    QCOMPARE(biller.ShowForm_Remote(), 0);
+    FormWindow* window = WindowOf("frmRandomInfo");
+    QVERIFY(window != nullptr);
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    CheckDrawing(*window);
+    QCOMPARE(QFontInfo(window->WidgetOf("lblStreet")->font()).family(), QString("MS Sans Serif"));
+    biller.Unload_From_Remote();
+  }
+
+  // The foreign bank dialog, opened from the international layout's button.
+  void theForeignBankDialogIsDrawnWhole() {
+    ClsRandom biller;
+    demo::LoadSample(biller, "international", tree_->install());
+    QCOMPARE(biller.ShowForm_Remote(), 0);
+    FormWindow* window = WindowOf("frmRandomInfo");
+    QVERIFY(window != nullptr && QTest::qWaitForWindowExposed(window));
+    auto* button = qobject_cast<QPushButton*>(window->WidgetOf("cmdFXBankingInfo"));
+    QVERIFY(button != nullptr && button->isVisible() && button->isEnabled());
+    CheckOpenedBy(*button, "frmFXBankInfo", [this](FormWindow& fx) {
+      CheckDrawing(fx);
+      QCOMPARE(QFontInfo(fx.WidgetOf("cmd_ok")->font()).family(), QString("Tahoma"));
+    });
+    biller.Unload_From_Remote();
+  }
+
+  // The sample cheque shows its picture, not an empty box.
+  void theChequeShowsItsPicture() {
+    ClsRandom biller;
+    demo::LoadSample(biller, "individual", tree_->install());
+    QCOMPARE(biller.ShowForm_Remote(), 0);
+    FormWindow* window = WindowOf("frmRandomInfo");
+    QVERIFY(window != nullptr && QTest::qWaitForWindowExposed(window));
+    auto* button = qobject_cast<QPushButton*>(window->WidgetOf("cmdCheque"));
+    QVERIFY(button != nullptr && button->isVisible());
+    CheckOpenedBy(*button, "frmCheque", [this](FormWindow& cheque) {
+      CheckDrawing(cheque);
+      QWidget* picture = cheque.WidgetOf("picture");
+      QVERIFY(picture != nullptr && picture->isVisible());
+      QVERIFY(ShowsSomething(picture->grab().toImage()));
+    });
+    biller.Unload_From_Remote();
+  }
+};
+
+}  // namespace
+}  // namespace nvrandom::qt
+
+QTEST_MAIN(nvrandom::qt::LayoutTest)
+#include "layout_test.moc"
