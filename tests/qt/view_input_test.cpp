@@ -8,6 +8,7 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -149,6 +150,18 @@ class ViewInputTest : public QObject {
     return qobject_cast<W*>(Window().WidgetOf(name));
   }
   forms::Control& Ctl(std::string_view name) { return form_->Ctl(name); }
+  // What the window system delivers for a double click: press, release, double click, release.
+  static void DoubleClick(QWidget& widget) {
+    const QPointF at(widget.width() / 2.0, widget.height() / 2.0);
+    const QPointF global = widget.mapToGlobal(at);
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                    QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+      const bool down = type != QEvent::MouseButtonRelease;
+      QMouseEvent event(type, at, global, Qt::LeftButton, down ? Qt::LeftButton : Qt::NoButton,
+                        Qt::NoModifier);
+      QApplication::sendEvent(&widget, &event);
+    }
+  }
 
  private slots:
   void init() {
@@ -260,6 +273,12 @@ class ViewInputTest : public QObject {
     QVERIFY(Widget<QRadioButton>("optTwo")->isChecked());
     QTest::mouseClick(Widget<QPushButton>("cmdOK"), Qt::LeftButton);
     QCOMPARE(form_->clicks, 1);
+    // A double click is two clicks to a button, and ticks a check box and clears it again.
+    DoubleClick(*Widget<QPushButton>("cmdOK"));
+    QCOMPARE(form_->clicks, 3);
+    DoubleClick(*Widget<QCheckBox>("chkTick"));
+    QCOMPARE(Ctl("chkTick").Value(), 1);
+    QCOMPARE(Widget<QCheckBox>("chkTick")->checkState(), Qt::Checked);
     QComboBox* combo = Widget<QComboBox>("cboProv");
     QCOMPARE(combo->count(), 2);
     emit combo->activated(1);  // the person picks the second row

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 #include <QUrl>
@@ -61,25 +62,31 @@ std::vector<Choice> ButtonsOf(int style) {
 }  // namespace
 
 int QtMessageBoxService::Show(std::string_view text, int style, std::string_view caption) {
-  QMessageBox box(IconOf(style), ToQString(caption), ToQString(text), QMessageBox::NoButton,
-                  QApplication::activeWindow());
+  // Owned through a guard: the window it opens over may be destroyed while it waits (the host
+  // unloads the dialog), and takes the box with it.
+  const QPointer<QMessageBox> box =
+      new QMessageBox(IconOf(style), ToQString(caption), ToQString(text), QMessageBox::NoButton,
+                      QApplication::activeWindow());
   const std::vector<Choice> choices = ButtonsOf(style);
-  for (const Choice& choice : choices) box.addButton(choice.button);
+  for (const Choice& choice : choices) box->addButton(choice.button);
   const size_t default_index = static_cast<size_t>((style & msgbox::kDefaultMask) >> 8);
-  box.setDefaultButton(choices[default_index < choices.size() ? default_index : 0].button);
+  box->setDefaultButton(choices[default_index < choices.size() ? default_index : 0].button);
   // Escape answers Cancel (or No) where the box has it, as the platform's box does.
   for (const Choice& choice : choices) {
-    if (choice.answer == msgbox::kCancel) box.setEscapeButton(choice.button);
+    if (choice.answer == msgbox::kCancel) box->setEscapeButton(choice.button);
   }
   if (on_shown) {
-    QTimer::singleShot(0, &box, [this, &box] { on_shown(box); });
+    QTimer::singleShot(0, box, [this, box] {
+      if (box) on_shown(*box);
+    });
   }
-  box.exec();
-  const auto clicked = box.standardButton(box.clickedButton());
+  box->exec();
+  const auto clicked = box ? box->standardButton(box->clickedButton()) : QMessageBox::NoButton;
+  delete box.data();
   for (const Choice& choice : choices) {
     if (choice.button == clicked) return choice.answer;
   }
-  // Closed without a button: the box's escape answer, else its default.
+  // Closed without a button, or gone with its window: the box's escape answer, else its default.
   for (const Choice& choice : choices) {
     if (choice.answer == msgbox::kCancel) return choice.answer;
   }
