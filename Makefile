@@ -3,7 +3,7 @@ APT_PACKAGES := cmake ninja-build g++ clang libclang-rt-14-dev pkg-config libgte
                 libbenchmark-dev libre2-dev libssl-dev nlohmann-json3-dev clang-format \
                 g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine64 wine64-tools fonts-wine \
                 xvfb googletest qt6-base-dev qt6-base-dev-tools qt6-svg-dev xauth x11-utils xdotool \
-                openbox fonts-open-sans libfontconfig-dev
+                openbox fonts-open-sans libfontconfig-dev time
 
 NVRANDOM := build/default/tools/nvrandom/nvrandom
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
@@ -49,3 +49,5 @@ bench: deps
 	cmake --preset release
 	cmake --build --preset release
 	build/release/bench/nvrandom_bench
+	build/release/bench/nvrandom_qt_bench
+	bench/qt/peak_memory.sh build/release

@@ -109,8 +109,7 @@ void UpdateTextBox(ControlRecord& r, Property p) {
 
 // Combo boxes and data lists: an editable box whose edit field takes the keys -----------------
 
-QComboBox* NewCombo(ControlRecord& r, QWidget* parent) {
-  auto* combo = new QComboBox(parent);
+QComboBox* SetUpCombo(ControlRecord& r, QComboBox* combo) {
   combo->setEditable(true);
   combo->setInsertPolicy(QComboBox::NoInsert);
   combo->setMaxVisibleItems(kVisibleListRows);
@@ -140,7 +139,7 @@ void UpdateComboCommon(ControlRecord& r, QComboBox& combo, Property p) {
 }
 
 QWidget* CreateComboBox(ControlRecord& r, QWidget* parent) {
-  return NewCombo(r, parent);
+  return SetUpCombo(r, new QComboBox(parent));
 }
 
 void UpdateComboBox(ControlRecord& r, Property p) {
@@ -155,17 +154,41 @@ void UpdateComboBox(ControlRecord& r, Property p) {
 }
 
 // Data lists drop down a table with the named column headings.
+// A data list's columns are sized to their contents when it drops down, not at each fill: the
+// country list's rows are measured only once somebody looks at them.
+class DataListBox final : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+  void ListFilled() { sized_ = false; }
+  void showPopup() override {
+    if (!sized_) {
+      auto* table = qobject_cast<QTableView*>(view());
+      if (table == nullptr) {
+        // The table of columns is made when the list first drops down.
+        table = new QTableView(this);
+        table->setSelectionBehavior(QAbstractItemView::SelectRows);
+        table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        table->verticalHeader()->hide();
+        table->horizontalHeader()->setStretchLastSection(true);
+        table->setShowGrid(false);
+        setView(table);
+      }
+      table->resizeColumnsToContents();
+      int width = 0;
+      for (int c = 0; c < model()->columnCount(); ++c) width += table->columnWidth(c);
+      table->setMinimumWidth(width + 24);
+      sized_ = true;
+    }
+    QComboBox::showPopup();
+  }
+
+ private:
+  bool sized_ = false;
+};
+
 QWidget* CreateDataList(ControlRecord& r, QWidget* parent) {
-  QComboBox* combo = NewCombo(r, parent);
-  auto* model = new QStandardItemModel(combo);
-  auto* table = new QTableView(combo);
-  table->setSelectionBehavior(QAbstractItemView::SelectRows);
-  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  table->verticalHeader()->hide();
-  table->horizontalHeader()->setStretchLastSection(true);
-  table->setShowGrid(false);
-  combo->setModel(model);
-  combo->setView(table);
+  QComboBox* combo = SetUpCombo(r, new DataListBox(parent));
+  combo->setModel(new QStandardItemModel(combo));
   return combo;
 }
 
@@ -177,9 +200,8 @@ void ShowHeadings(const Control& control, QStandardItemModel& model) {
 }
 
 void UpdateDataList(ControlRecord& r, Property p) {
-  auto* combo = static_cast<QComboBox*>(r.widget);
+  auto* combo = static_cast<DataListBox*>(r.widget);
   auto* model = static_cast<QStandardItemModel*>(combo->model());
-  auto* table = static_cast<QTableView*>(combo->view());
   switch (p) {
     case Property::kList: {
       model->clear();
@@ -190,10 +212,7 @@ void UpdateDataList(ControlRecord& r, Property p) {
       }
       ShowHeadings(*r.control, *model);
       combo->setModelColumn(r.control->DisplayColumn());
-      table->resizeColumnsToContents();
-      int width = 0;
-      for (int c = 0; c < model->columnCount(); ++c) width += table->columnWidth(c);
-      table->setMinimumWidth(width + 24);
+      combo->ListFilled();
       combo->setCurrentIndex(r.control->ListIndex());
       ShowEditText(*combo->lineEdit(), *r.control);
       break;

@@ -121,27 +121,14 @@ FormWindow::FormWindow(forms::Form& form, double logical_dpi, QWidget* parent)
       dpi_(logical_dpi) {
   setObjectName(ToQString(form.Name()));
   setAttribute(Qt::WA_DeleteOnClose, false);
-  // Widgets first, then containers: a control's container may come after it in the table.
   for (const auto& control : form.Controls()) {
     auto record = std::make_unique<ControlRecord>();
     record->control = control.get();
     record->window = this;
-    record->widget = ViewOf(control->kind()).create(*record, this);
-    if (record->input == nullptr) record->input = record->widget;
-    record->widget->setObjectName(ToQString(control->FullName()));
-    record->widget->setFocusPolicy(control->CanFocus() ? Qt::ClickFocus : Qt::NoFocus);
-    record->widget->installEventFilter(this);
-    if (record->input != record->widget) {
-      record->input->installEventFilter(this);
-      record->input->setFocusPolicy(Qt::ClickFocus);  // a combo box's edit field is its proxy
-    }
+    by_control_.emplace(record->control, record.get());
     records_.push_back(std::move(record));
   }
-  for (auto& record : records_) {
-    if (const Control* container = record->control->Container()) {
-      if (QWidget* parent_widget = WidgetOf(*container)) record->widget->setParent(parent_widget);
-    }
-  }
+  for (auto& record : records_) CreateWidget(*record);
   for (auto& record : records_) {
     ControlRecord* r = record.get();
     // A choice from a list's drop-down is the person's: the model chooses the row.
@@ -181,6 +168,31 @@ FormWindow::FormWindow(forms::Form& form, double logical_dpi, QWidget* parent)
 
 FormWindow::~FormWindow() = default;
 
+// Each widget is made inside its container's (made first: a control's container may come after
+// it in the table), so that none is moved to another parent afterwards.
+void FormWindow::CreateWidget(ControlRecord& record) {
+  if (record.widget != nullptr) return;
+  const Control& control = *record.control;
+  QWidget* parent = this;
+  if (const Control* container = control.Container()) {
+    if (const auto it = by_control_.find(container); it != by_control_.end()) {
+      CreateWidget(*it->second);
+      parent = it->second->widget;
+    }
+  }
+  record.widget = ViewOf(control.kind()).create(record, parent);
+  if (record.input == nullptr) record.input = record.widget;
+  record.widget->setObjectName(ToQString(control.FullName()));
+  record.widget->setFocusPolicy(control.CanFocus() ? Qt::ClickFocus : Qt::NoFocus);
+  record.widget->installEventFilter(this);
+  if (record.input != record.widget) {
+    record.input->installEventFilter(this);
+    record.input->setFocusPolicy(Qt::ClickFocus);  // a combo box's edit field is its proxy
+  }
+  by_widget_.emplace(record.widget, &record);
+  by_widget_.emplace(record.input, &record);
+}
+
 // A screen reader reads an input by its label: the label in the same container on the input's
 // line, nearest to its left.
 void FormWindow::NameInputs() {
@@ -205,6 +217,7 @@ void FormWindow::NameInputs() {
 void FormWindow::Detach() {
   form_ = nullptr;
   for (auto& record : records_) record->control = nullptr;
+  by_control_.clear();
 }
 
 void FormWindow::ApplyAll(ControlRecord& record) {
@@ -212,10 +225,8 @@ void FormWindow::ApplyAll(ControlRecord& record) {
 }
 
 QWidget* FormWindow::WidgetOf(const Control& control) const {
-  for (const auto& record : records_) {
-    if (record->control == &control) return record->widget;
-  }
-  return nullptr;
+  const auto it = by_control_.find(&control);
+  return it != by_control_.end() ? it->second->widget : nullptr;
 }
 
 QWidget* FormWindow::WidgetOf(std::string_view name, int index) const {
@@ -225,25 +236,18 @@ QWidget* FormWindow::WidgetOf(std::string_view name, int index) const {
 }
 
 QWidget* FormWindow::InputWidgetOf(const Control& control) const {
-  for (const auto& record : records_) {
-    if (record->control == &control) return record->input;
-  }
-  return nullptr;
+  const auto it = by_control_.find(&control);
+  return it != by_control_.end() ? it->second->input : nullptr;
 }
 
 ControlRecord* FormWindow::RecordOf(const QObject* widget) const {
-  for (const auto& record : records_) {
-    if (record->widget == widget || record->input == widget) return record.get();
-  }
-  return nullptr;
+  const auto it = by_widget_.find(widget);
+  return it != by_widget_.end() ? it->second : nullptr;
 }
 
 void FormWindow::ControlChanged(Control& control, Property property) {
-  for (auto& record : records_) {
-    if (record->control == &control) {
-      Update(*record, property);
-      return;
-    }
+  if (const auto it = by_control_.find(&control); it != by_control_.end()) {
+    Update(*it->second, property);
   }
 }
 
@@ -274,7 +278,11 @@ void FormWindow::Update(ControlRecord& r, Property p) {
       if (!text_kind) palette.setColor(QPalette::Button, back);
       palette.setColor(text_kind ? QPalette::Text : QPalette::WindowText, fore);
       palette.setColor(QPalette::ButtonText, fore);
-      r.widget->setPalette(palette);
+      // Set once the colours differ: a palette set again, even the same, is passed down to
+      // every child and repolished.
+      if (!r.widget->testAttribute(Qt::WA_SetPalette) || palette != r.widget->palette()) {
+        r.widget->setPalette(palette);
+      }
       r.widget->setAutoFillBackground(!text_kind &&
                                       (c.kind() != ControlKind::kLabel || c.BackStyle() != 0));
       break;
@@ -283,7 +291,9 @@ void FormWindow::Update(ControlRecord& r, Property p) {
       QFont font = r.widget->font();
       font.setFamily(ToQString(c.FontName()));
       font.setPointSizeF(kPointSize);
-      r.widget->setFont(font);
+      if (!r.widget->testAttribute(Qt::WA_SetFont) || font != r.widget->font()) {
+        r.widget->setFont(font);
+      }
       break;
     }
     default:

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 #include "forms/form.h"
@@ -45,6 +46,7 @@ class FormWindow final : public QWidget {
 
  private:
   ControlRecord* RecordOf(const QObject* widget) const;
+  void CreateWidget(ControlRecord& record);
   void ApplyAll(ControlRecord& record);
   void NameInputs();
   void Update(ControlRecord& record, forms::Property property);
@@ -57,6 +59,10 @@ class FormWindow final : public QWidget {
   forms::Form* form_;
   double dpi_;
   std::vector<std::unique_ptr<ControlRecord>> records_;
+  // Every event of every widget and every notification looks its record up: by hash, not by a
+  // walk over the form's controls.
+  std::unordered_map<const QObject*, ControlRecord*> by_widget_;
+  std::unordered_map<const forms::Control*, ControlRecord*> by_control_;
 };
 
 }  // namespace nvrandom::qt

@@ -1,6 +1,7 @@
 #include "picture_resources.h"
 
 #include <QFile>
+#include <QHash>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -24,11 +25,17 @@ QPixmap PictureOf(const forms::Control& control) {
   const double dpi = ScreenDpi();
   const QSize size(TwipsToPixels(control.Width(), dpi), TwipsToPixels(control.Height(), dpi));
   if (size.isEmpty()) return {};
+  // A control array's images (the help icons) share one drawing of each size.
+  static QHash<QString, QPixmap> drawn;
+  const QString key = QStringLiteral("%1@%2x%3").arg(path).arg(size.width()).arg(size.height());
+  if (const auto it = drawn.constFind(key); it != drawn.constEnd()) return *it;
   QSvgRenderer renderer(path);
   QPixmap pixmap(size);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   renderer.render(&painter);
+  painter.end();
+  drawn.insert(key, pixmap);
   return pixmap;
 }
 

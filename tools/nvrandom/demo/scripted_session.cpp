@@ -117,6 +117,10 @@ void ScriptedSession::Run() {
       cheque != nullptr && cheque->isVisibleTo(window) && cheque->isEnabled()) {
     ClickOpening(*cheque, "frmCheque", "sample-cheque");
   }
+  if (QWidget* foreign = Widget(kBillerForm, "cmdFXBankingInfo");
+      foreign != nullptr && foreign->isVisibleTo(window) && foreign->isEnabled()) {
+    ClickOpening(*foreign, "frmFXBankInfo", "foreign-bank");
+  }
   if (QWidget* ok = Widget(kBillerForm, "cmd_ok")) Click(*ok);
   if (Find(kBillerForm) == nullptr || view_.WindowOf(*form) == nullptr) return;
   Picture(*view_.WindowOf(*form), "not-accepted");
