@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <array>
@@ -30,7 +31,7 @@ using K = forms::ControlKind;
 
 const forms::FormDesign kDesign{"frmProbe", "Probe", 6000, 4000, false};
 
-const std::array<forms::ControlDesign, 10> kControls = {{
+const std::array<forms::ControlDesign, 11> kControls = {{
     {.kind = K::kTextBox,
      .name = "txtUpper",
      .left = 120,
@@ -100,6 +101,13 @@ const std::array<forms::ControlDesign, 10> kControls = {{
      .width = 1200,
      .height = 315,
      .tab_index = 6},
+    {.kind = K::kDataList,
+     .name = "dlCountry",
+     .left = 3000,
+     .top = 2400,
+     .width = 2400,
+     .height = 315,
+     .tab_index = 8},
     {.kind = K::kCommandButton,
      .name = "cmdOK",
      .caption = "OK",
@@ -131,6 +139,9 @@ class ProbeForm final : public forms::Form {
     Ctl("txtSecret").SetPasswordChar("*");
     Ctl("cboProv").AddItem("ON");
     Ctl("cboProv").AddItem("QC");
+    Ctl("dlCountry").SetColumnHeadings({"Country", "Code"});
+    Ctl("dlCountry").SetBoundColumn(1);
+    Ctl("dlCountry").SetRows({{"Canada", "CA"}, {"France", "FR"}, {"Japan", "JP"}});
   }
   int clicks = 0;
 };
@@ -284,6 +295,25 @@ class ViewInputTest : public QObject {
     emit combo->activated(1);  // the person picks the second row
     QCOMPARE(Ctl("cboProv").ListIndex(), 1);
     QCOMPARE(combo->currentText(), QString("QC"));
+  }
+
+  // A data list drops down its rows in columns under their headings, read from the model; a
+  // row chosen there is the model's choice, by its code.
+  void aDataListShowsItsRowsAndTakesAChoice() {
+    auto* list = Widget<QComboBox>("dlCountry");
+    list->showPopup();
+    auto* table = qobject_cast<QTableView*>(list->view());
+    QVERIFY(table != nullptr);
+    QCOMPARE(table->model()->rowCount(), 3);
+    QCOMPARE(table->model()->index(1, 0).data().toString(), QString("France"));
+    QCOMPARE(table->model()->headerData(1, Qt::Horizontal).toString(), QString("Code"));
+    list->hidePopup();
+    emit list->activated(2);
+    QCOMPARE(Ctl("dlCountry").BoundText(), "JP");
+    QCOMPARE(list->lineEdit()->text(), QString("Japan"));
+    Ctl("dlCountry").SetRows({{"Peru", "PE"}});
+    QCOMPARE(list->model()->rowCount(), 1);
+    QCOMPARE(list->model()->index(0, 1).data().toString(), QString("PE"));
   }
 
   void focusFollowsTheModelAndRefusalsKeepIt() {

@@ -1,4 +1,5 @@
 // One update function per kind of control: what the model holds, written into the widget.
+#include <QAbstractTableModel>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -7,8 +8,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStandardItemModel>
 #include <QTableView>
+#include <algorithm>
 
 #include "control_record.h"
 #include "picture_resources.h"
@@ -186,31 +187,66 @@ class DataListBox final : public QComboBox {
   bool sized_ = false;
 };
 
+// The rows of a data list as the drop-down's table reads them: straight from the control, cell
+// by cell when they are drawn, with no copy of the list in the view.
+class RowsModel final : public QAbstractTableModel {
+ public:
+  RowsModel(const ControlRecord& record, QObject* parent)
+      : QAbstractTableModel(parent), record_(record) {}
+
+  // The control's rows or headings changed (or it is going away: nullptr).
+  void Reset() {
+    beginResetModel();
+    const Control* c = record_.control;
+    rows_ = c != nullptr ? c->ListCount() : 0;
+    columns_ = 0;
+    for (int i = 0; c != nullptr && i < rows_; ++i) {
+      columns_ = std::max(columns_, static_cast<int>(c->Row(i).size()));
+    }
+    if (c != nullptr) columns_ = std::max(columns_, static_cast<int>(c->ColumnHeadings().size()));
+    endResetModel();
+  }
+  int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : rows_; }
+  int columnCount(const QModelIndex& parent) const override {
+    return parent.isValid() ? 0 : columns_;
+  }
+  QVariant data(const QModelIndex& index, int role) const override {
+    const Control* c = record_.control;
+    if ((role != Qt::DisplayRole && role != Qt::EditRole) || c == nullptr ||
+        index.row() >= c->ListCount()) {
+      return {};
+    }
+    const auto& row = c->Row(index.row());
+    const auto column = static_cast<size_t>(index.column());
+    return column < row.size() ? QVariant(ToQString(row[column])) : QVariant();
+  }
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+    const Control* c = record_.control;
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || c == nullptr ||
+        section >= static_cast<int>(c->ColumnHeadings().size())) {
+      return {};
+    }
+    return ToQString(c->ColumnHeadings()[static_cast<size_t>(section)]);
+  }
+
+ private:
+  const ControlRecord& record_;
+  int rows_ = 0;
+  int columns_ = 0;
+};
+
 QWidget* CreateDataList(ControlRecord& r, QWidget* parent) {
   QComboBox* combo = SetUpCombo(r, new DataListBox(parent));
-  combo->setModel(new QStandardItemModel(combo));
+  combo->setModel(new RowsModel(r, combo));
   return combo;
-}
-
-void ShowHeadings(const Control& control, QStandardItemModel& model) {
-  QStringList headings;
-  for (const auto& h : control.ColumnHeadings()) headings << ToQString(h);
-  if (model.columnCount() < headings.size()) model.setColumnCount(headings.size());
-  model.setHorizontalHeaderLabels(headings);
 }
 
 void UpdateDataList(ControlRecord& r, Property p) {
   auto* combo = static_cast<DataListBox*>(r.widget);
-  auto* model = static_cast<QStandardItemModel*>(combo->model());
+  auto* model = static_cast<RowsModel*>(combo->model());
   switch (p) {
     case Property::kList: {
-      model->clear();
-      for (int i = 0; i < r.control->ListCount(); ++i) {
-        QList<QStandardItem*> items;
-        for (const auto& cell : r.control->Row(i)) items << new QStandardItem(ToQString(cell));
-        model->appendRow(items);
-      }
-      ShowHeadings(*r.control, *model);
+      model->Reset();
       combo->setModelColumn(r.control->DisplayColumn());
       combo->ListFilled();
       combo->setCurrentIndex(r.control->ListIndex());
@@ -218,7 +254,7 @@ void UpdateDataList(ControlRecord& r, Property p) {
       break;
     }
     case Property::kColumnHeadings:
-      ShowHeadings(*r.control, *model);
+      model->Reset();
       break;
     case Property::kDisplayColumn:
       combo->setModelColumn(r.control->DisplayColumn());

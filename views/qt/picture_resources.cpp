@@ -28,14 +28,15 @@ QPixmap PictureOf(const forms::Control& control) {
   // A control array's images (the help icons) share one drawing of each size.
   static QHash<QString, QPixmap> drawn;
   const QString key = QStringLiteral("%1@%2x%3").arg(path).arg(size.width()).arg(size.height());
-  if (const auto it = drawn.constFind(key); it != drawn.constEnd()) return *it;
+  const bool shared = control.Index() >= 0;
+  if (const auto it = drawn.constFind(key); shared && it != drawn.constEnd()) return *it;
   QSvgRenderer renderer(path);
   QPixmap pixmap(size);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   renderer.render(&painter);
   painter.end();
-  drawn.insert(key, pixmap);
+  if (shared) drawn.insert(key, pixmap);
   return pixmap;
 }
 

@@ -1,7 +1,9 @@
 // AES-256-GCM through OpenSSL's EVP interface.
+#include <openssl/crypto.h>
 #include <openssl/evp.h>
-#include <openssl/rand.h>
+#include <sys/random.h>
 
+#include <cerrno>
 #include <climits>
 #include <memory>
 
@@ -23,6 +25,11 @@ bool FitsInt(size_t size) {
 
 // A context set up for AES-256-GCM with the key, the 12-byte nonce and the associated data.
 CipherContext Start(bool seal, AesGcmKey key, AesGcmNonce nonce, std::string_view associated) {
+  // One cipher is all this needs: no configuration file, no error texts.
+  static const bool initialised =
+      OPENSSL_init_crypto(OPENSSL_INIT_NO_LOAD_CONFIG | OPENSSL_INIT_NO_LOAD_CRYPTO_STRINGS,
+                          nullptr) == 1;
+  (void)initialised;
   CipherContext ctx(EVP_CIPHER_CTX_new(), &EVP_CIPHER_CTX_free);
   const int enc = seal ? 1 : 0;
   int ignored = 0;
@@ -40,8 +47,19 @@ CipherContext Start(bool seal, AesGcmKey key, AesGcmNonce nonce, std::string_vie
 
 }  // namespace
 
+// From the kernel's generator: OpenSSL's own (RAND_bytes) would set up its random-number
+// providers, megabytes of memory, for the few bytes of a nonce.
 bool RandomBytes(std::span<uint8_t> out) {
-  return FitsInt(out.size()) && RAND_bytes(out.data(), static_cast<int>(out.size())) == 1;
+  size_t done = 0;
+  while (done < out.size()) {
+    const ssize_t got = getrandom(out.data() + done, out.size() - done, 0);
+    if (got < 0) {
+      if (errno == EINTR) continue;
+      return false;
+    }
+    done += static_cast<size_t>(got);
+  }
+  return true;
 }
 
 std::optional<std::string> SealAes256Gcm(AesGcmKey key, AesGcmNonce nonce,
