@@ -15,8 +15,9 @@ struct ControlRecord {
   QWidget* widget = nullptr;  // placed on the form (or in its container)
   QWidget* input = nullptr;   // takes the keyboard: the widget itself, or a combo box's edit field
   FormWindow* window = nullptr;
-  bool syncing = false;         // the model's values are being written into the widget
-  bool double_clicked = false;  // the left button's second press; its release is no Click
+  bool syncing = false;            // the model's values are being written into the widget
+  bool double_clicked = false;     // the left button's second press; its release is no Click
+  bool follows_selection = false;  // the edit field's selection signals are connected
 };
 
 // How one kind of control is shown: the widget it gets and the update of its own properties

@@ -142,23 +142,32 @@ FormWindow::FormWindow(forms::Form& form, double logical_dpi, QWidget* parent)
         if (form_ != nullptr) Update(*r, Property::kText);
       });
     }
-    // The person selects text with the mouse: the model's selection follows.
-    if (auto* edit = qobject_cast<QLineEdit*>(r->input)) {
-      QObject::connect(edit, &QLineEdit::selectionChanged, this, [this, r, edit] {
-        if (form_ == nullptr || r->syncing || !edit->hasSelectedText()) return;
-        forms::user::Select(*r->control, edit->selectionStart(),
-                            static_cast<int>(edit->selectedText().size()));
-      });
-      QObject::connect(edit, &QLineEdit::cursorPositionChanged, this,
-                       [this, r, edit](int, int now) {
-                         if (form_ == nullptr || r->syncing || edit->hasSelectedText()) return;
-                         if (r->control->SelStart() != now || r->control->SelLength() != 0) {
-                           forms::user::Select(*r->control, now, 0);
-                         }
-                       });
-    }
-    ApplyAll(*r);
   }
+}
+
+// The person selects text with the mouse: the model's selection follows. Connected when the
+// edit field first takes the focus, which the mouse gives it before it selects.
+void FormWindow::FollowSelection(ControlRecord& record) {
+  auto* edit = qobject_cast<QLineEdit*>(record.input);
+  if (edit == nullptr || std::exchange(record.follows_selection, true)) return;
+  ControlRecord* r = &record;
+  QObject::connect(edit, &QLineEdit::selectionChanged, this, [this, r, edit] {
+    if (form_ == nullptr || r->syncing || !edit->hasSelectedText()) return;
+    forms::user::Select(*r->control, edit->selectionStart(),
+                        static_cast<int>(edit->selectedText().size()));
+  });
+  QObject::connect(edit, &QLineEdit::cursorPositionChanged, this, [this, r, edit](int, int now) {
+    if (form_ == nullptr || r->syncing || edit->hasSelectedText()) return;
+    if (r->control->SelStart() != now || r->control->SelLength() != 0) {
+      forms::user::Select(*r->control, now, 0);
+    }
+  });
+}
+
+void FormWindow::Wake() {
+  if (awake_ || form_ == nullptr) return;
+  awake_ = true;
+  for (auto& record : records_) ApplyAll(*record);
   NameInputs();
   for (const Property p :
        {Property::kCaption, Property::kWidth, Property::kBackColor, Property::kFontName}) {
@@ -246,6 +255,7 @@ ControlRecord* FormWindow::RecordOf(const QObject* widget) const {
 }
 
 void FormWindow::ControlChanged(Control& control, Property property) {
+  if (!awake_) return;
   if (const auto it = by_control_.find(&control); it != by_control_.end()) {
     Update(*it->second, property);
   }
@@ -304,7 +314,7 @@ void FormWindow::Update(ControlRecord& r, Property p) {
 }
 
 void FormWindow::FormChanged(Property property) {
-  if (form_ == nullptr) return;
+  if (form_ == nullptr || !awake_) return;
   switch (property) {
     case Property::kCaption:
       setWindowTitle(ToQString(form_->Caption()));
@@ -333,7 +343,7 @@ void FormWindow::FormChanged(Property property) {
 }
 
 void FormWindow::ShowFocus(Control* control) {
-  if (form_ == nullptr || control == nullptr) return;
+  if (form_ == nullptr || control == nullptr || !awake_) return;
   if (QWidget* input = InputWidgetOf(*control)) {
     if (!input->hasFocus()) input->setFocus(Qt::OtherFocusReason);
   }
@@ -492,6 +502,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
     case QEvent::FocusIn: {
+      FollowSelection(*r);
       const auto reason = static_cast<QFocusEvent*>(event)->reason();
       if (reason != Qt::OtherFocusReason && reason != Qt::ActiveWindowFocusReason &&
           reason != Qt::PopupFocusReason) {

@@ -24,6 +24,9 @@ class FormWindow final : public QWidget {
   ~FormWindow() override;
 
   forms::Form* form() const { return form_; }
+  // The widgets take the model's values when the form is first shown, all at once: while it
+  // loads (set-up changes most of them) the window is dormant and ignores the notifications.
+  void Wake();
   // The form was unloaded: the window stops forwarding input and no longer touches the model.
   void Detach();
 
@@ -47,6 +50,7 @@ class FormWindow final : public QWidget {
  private:
   ControlRecord* RecordOf(const QObject* widget) const;
   void CreateWidget(ControlRecord& record);
+  void FollowSelection(ControlRecord& record);
   void ApplyAll(ControlRecord& record);
   void NameInputs();
   void Update(ControlRecord& record, forms::Property property);
@@ -58,6 +62,7 @@ class FormWindow final : public QWidget {
 
   forms::Form* form_;
   double dpi_;
+  bool awake_ = false;
   std::vector<std::unique_ptr<ControlRecord>> records_;
   // Every event of every widget and every notification looks its record up: by hash, not by a
   // walk over the form's controls.

@@ -72,6 +72,7 @@ void QtView::FormLifecycle(forms::Form& form, FormEvent event) {
     case FormEvent::kShownModal: {
       FormWindow& window = Ensure(form, nullptr);
       Place(form, window, nullptr, Qt::Dialog);
+      window.Wake();
       window.setWindowModality(Qt::ApplicationModal);
       window.show();
       window.raise();
@@ -81,6 +82,7 @@ void QtView::FormLifecycle(forms::Form& form, FormEvent event) {
     }
     case FormEvent::kShownEmbedded: {
       FormWindow& window = Ensure(form, embed_parent_);
+      window.Wake();
       if (embed_parent_) {
         Place(form, window, embed_parent_, Qt::Widget);
         window.move(0, 0);
