@@ -137,6 +137,14 @@ class LayoutTest : public QObject {
     return form != nullptr ? integration_->view().WindowOf(*form) : nullptr;
   }
 
+  // The biller dialog on a sample, in a window of its own (nullptr when it did not open).
+  FormWindow* Open(ClsRandom& biller, const std::string& sample) {
+    demo::LoadSample(biller, sample, tree_->install());
+    if (biller.ShowForm_Remote() != 0) return nullptr;
+    FormWindow* window = WindowOf("frmRandomInfo");
+    return window != nullptr && QTest::qWaitForWindowExposed(window) ? window : nullptr;
+  }
+
   // The window of the form a click opens modally, checked while it is open, then closed.
   void CheckOpenedBy(QWidget& button, std::string_view form_name,
                      const std::function<void(FormWindow&)>& check) {
@@ -217,11 +225,8 @@ class LayoutTest : public QObject {
   void eachLayoutIsDrawnWhole() {
     QFETCH(QString, sample);
     ClsRandom biller;
-    demo::LoadSample(biller, sample.toStdString(), tree_->install());
-    QCOMPARE(biller.ShowForm_Remote(), 0);
-    FormWindow* window = WindowOf("frmRandomInfo");
+    FormWindow* window = Open(biller, sample.toStdString());
     QVERIFY(window != nullptr);
-    QVERIFY(QTest::qWaitForWindowExposed(window));
     CheckDrawing(*window);
     QCOMPARE(QFontInfo(window->WidgetOf("lblStreet")->font()).family(), QString("MS Sans Serif"));
     biller.Unload_From_Remote();
@@ -230,10 +235,8 @@ class LayoutTest : public QObject {
   // The foreign bank dialog, opened from the international layout's button.
   void theForeignBankDialogIsDrawnWhole() {
     ClsRandom biller;
-    demo::LoadSample(biller, "international", tree_->install());
-    QCOMPARE(biller.ShowForm_Remote(), 0);
-    FormWindow* window = WindowOf("frmRandomInfo");
-    QVERIFY(window != nullptr && QTest::qWaitForWindowExposed(window));
+    FormWindow* window = Open(biller, "international");
+    QVERIFY(window != nullptr);
     auto* button = qobject_cast<QPushButton*>(window->WidgetOf("cmdFXBankingInfo"));
     QVERIFY(button != nullptr && button->isVisible() && button->isEnabled());
     CheckOpenedBy(*button, "frmFXBankInfo", [this](FormWindow& fx) {
@@ -246,10 +249,8 @@ class LayoutTest : public QObject {
   // The sample cheque shows its picture, not an empty box.
   void theChequeShowsItsPicture() {
     ClsRandom biller;
-    demo::LoadSample(biller, "individual", tree_->install());
-    QCOMPARE(biller.ShowForm_Remote(), 0);
-    FormWindow* window = WindowOf("frmRandomInfo");
-    QVERIFY(window != nullptr && QTest::qWaitForWindowExposed(window));
+    FormWindow* window = Open(biller, "individual");
+    QVERIFY(window != nullptr);
     auto* button = qobject_cast<QPushButton*>(window->WidgetOf("cmdCheque"));
     QVERIFY(button != nullptr && button->isVisible());
     CheckOpenedBy(*button, "frmCheque", [this](FormWindow& cheque) {

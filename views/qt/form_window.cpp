@@ -113,6 +113,19 @@ int16_t ButtonOf(Qt::MouseButton button) {
   }
 }
 
+// A mouse event as MouseDown and MouseUp are told of it.
+struct MouseArgs {
+  int16_t button;
+  int16_t shift;
+  float x;
+  float y;
+};
+
+MouseArgs ArgsOf(const QMouseEvent& me, double dpi) {
+  return {ButtonOf(me.button()), ShiftState(me.modifiers()), Twips(me.position().x(), dpi),
+          Twips(me.position().y(), dpi)};
+}
+
 }  // namespace
 
 FormWindow::FormWindow(forms::Form& form, double logical_dpi, QWidget* parent)
@@ -399,10 +412,7 @@ bool FormWindow::Key(ControlRecord& r, QKeyEvent* event) {
 bool FormWindow::Mouse(ControlRecord& r, QEvent* event) {
   auto* me = static_cast<QMouseEvent*>(event);
   Control& c = *r.control;
-  const int16_t button = ButtonOf(me->button());
-  const int16_t shift = ShiftState(me->modifiers());
-  const float x = Twips(me->position().x(), dpi_);
-  const float y = Twips(me->position().y(), dpi_);
+  const auto [button, shift, x, y] = ArgsOf(*me, dpi_);
   const bool text_kind = forms::IsTextKind(c.kind());
   if (text_kind) {
     if (me->button() != Qt::RightButton) {
@@ -445,10 +455,7 @@ bool FormWindow::Mouse(ControlRecord& r, QEvent* event) {
 void FormWindow::Clicks(ControlRecord& r, QEvent* event) {
   auto* me = static_cast<QMouseEvent*>(event);
   Control& c = *r.control;
-  const int16_t button = ButtonOf(me->button());
-  const int16_t shift = ShiftState(me->modifiers());
-  const float x = Twips(me->position().x(), dpi_);
-  const float y = Twips(me->position().y(), dpi_);
+  const auto [button, shift, x, y] = ArgsOf(*me, dpi_);
   const bool left = me->button() == Qt::LeftButton;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
