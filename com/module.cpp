@@ -13,6 +13,7 @@
 #include "com/cls_random_object.h"
 #include "com/com_error.h"
 #include "platform/win32/com_handles.h"
+#include "win32_integration.h"
 
 namespace nvrandom::com {
 
@@ -62,6 +63,11 @@ class ClassFactory final : public IClassFactory {
     return 1;
   }
   STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
+    // The Windows services and the Win32 view of this thread's dialogs, before its first object.
+    const HRESULT composed = Guarded([] {
+      win32::InstallWin32Composition({&AddModuleReference, &ReleaseModuleReference});
+    });
+    if (FAILED(composed)) return composed;
     return CreateClsRandomObject(outer, iid, out);
   }
   STDMETHODIMP LockServer(BOOL lock) override {
@@ -141,11 +147,13 @@ using namespace nvrandom::com;
 
 extern "C" {
 
-BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
+BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved) {
   if (reason == DLL_PROCESS_ATTACH) {
     g_module = instance;
     ::DisableThreadLibraryCalls(instance);
   }
+  // Unloaded by FreeLibrary (not at process exit): the window classes go with the module.
+  if (reason == DLL_PROCESS_DETACH && reserved == nullptr) nvrandom::win32::ReleaseWin32Views();
   return TRUE;
 }
 

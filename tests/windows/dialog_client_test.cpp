@@ -1,0 +1,224 @@
+// A host of NVRandom.dll's real dialogs: events through connection points while the person's keys
+// and clicks reach the dialog's windows, embedding by SetParent, releasing the object with the
+// dialog open, and modal shows with their own message loop (a nested dialog too).
+#include <gtest/gtest.h>
+
+#include "dialog_host.h"
+#include "screenshot.h"
+
+namespace nvrandom::com::test {
+namespace {
+
+constexpr const wchar_t* kBillerCaption = L"Norvik - Biller / Funds Transfer Information";
+constexpr const wchar_t* kBankCaption = L"International Payment Banking Information";
+
+HWND DialogOf(IDispatch& object) {
+  return reinterpret_cast<HWND>(static_cast<INT_PTR>(DialogHost::Call(object, L"Get_hWnd")));
+}
+
+int Pixels(long twips) {
+  return ::MulDiv(static_cast<int>(twips), SystemDpi(), 1440);
+}
+
+class DialogClient : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(apartment_.usable());
+    ASSERT_TRUE(host_.loaded());
+  }
+  void TearDown() override { EXPECT_TRUE(host_.message_boxes().empty()); }
+
+  ApartmentScope apartment_;
+  DialogHost host_;
+};
+
+TEST_F(DialogClient, EmbeddedDialogRaisesItsEventsThroughConnectionPoints) {
+  ComPtr<IDispatch> object = host_.Create();
+  ASSERT_TRUE(object);
+  host_.SetUp(*object, "business");
+  RecordingSink sink;
+  ASSERT_NE(DialogHost::Advise(*object, sink), 0u);
+
+  // Shown: the first field takes the focus and reports where it stands.
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  ASSERT_TRUE(::IsWindowVisible(dialog));
+  ASSERT_TRUE(host_.PumpUntil([&] { return !sink.tops.empty(); }));
+  EXPECT_EQ(sink.events, "2");
+  const HWND street = ::GetFocus();
+  ASSERT_NE(street, nullptr);
+  EXPECT_EQ(WindowText(street), L"100 KING ST W");
+
+  // Tab goes through the runtime's tab order to the next field, which reports a lower top.
+  PostKey(street, VK_TAB);
+  ASSERT_TRUE(host_.PumpUntil([&] { return sink.tops.size() == 2; }));
+  EXPECT_GT(sink.tops[1], sink.tops[0]);
+  const HWND city = ::GetFocus();
+  EXPECT_EQ(WindowText(city), L"TORONTO");
+
+  // What the field shows is the model's text: the city's rules upper-case a typed letter.
+  PostKey(city, VK_END);
+  PostKey(city, 'X');
+  ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(city) == L"TORONTOX"; }));
+  PostKey(city, VK_BACK);
+  ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(city) == L"TORONTO"; }));
+
+  // The cancel button and the close box each give one Cancel and close the window.
+  ::SendMessageW(FindControl(dialog, L"Cancel"), BM_CLICK, 0, 0);
+  ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindow(dialog); }));
+  EXPECT_EQ(sink.events, "223") << testing::PrintToString(sink.tops);
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND again = DialogOf(*object);
+  ::PostMessageW(again, WM_CLOSE, 0, 0);
+  ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindow(again); }));
+  EXPECT_EQ(sink.events.substr(sink.events.size() - 1), "3");
+
+  // OK on a valid biller: CSBOK, and the dialog goes.
+  sink.events.clear();
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND valid = DialogOf(*object);
+  ::SendMessageW(FindControl(valid, L"OK"), BM_CLICK, 0, 0);
+  ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindow(valid); }))
+      << sink.events << " focus: " << testing::PrintToString(WindowText(::GetFocus()));
+  EXPECT_NE(sink.events.find('1'), std::string::npos) << sink.events;
+  EXPECT_EQ(sink.events.find('3'), std::string::npos) << sink.events;
+}
+
+TEST_F(DialogClient, HostEmbedsTheDialogWithSetParentAtItsDesignedSize) {
+  ComPtr<IDispatch> object = host_.Create();
+  ASSERT_TRUE(object);
+  host_.SetUp(*object, "business");
+  const HWND container = ::CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW, 0, 0, 900,
+                                           700, nullptr, nullptr, nullptr, nullptr);
+  ASSERT_NE(container, nullptr);
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  ::SetParent(dialog, container);
+  host_.PumpUntil([] { return false; }, 100);
+  EXPECT_NE(::GetWindowLongPtrW(dialog, GWL_STYLE) & WS_CHILD, 0);
+  EXPECT_EQ(::GetWindowLongPtrW(dialog, GWL_STYLE) & WS_CAPTION, 0);
+  RECT client{};
+  ::GetClientRect(dialog, &client);
+  EXPECT_EQ(client.right, Pixels(DialogHost::Call(*object, L"Get_Width")));
+  EXPECT_EQ(client.bottom, Pixels(DialogHost::Call(*object, L"Get_Height")));
+  RECT placed{};
+  ::GetWindowRect(dialog, &placed);
+  ::MapWindowPoints(nullptr, container, reinterpret_cast<POINT*>(&placed), 2);
+  EXPECT_EQ(placed.left, 0);
+  EXPECT_EQ(placed.top, 0);
+  // Closing from the host's side leaves no window behind.
+  EXPECT_EQ(DialogHost::Call(*object, L"Unload_From_Remote"), 0);
+  EXPECT_FALSE(::IsWindow(dialog));
+  ::DestroyWindow(container);
+}
+
+TEST_F(DialogClient, ReleasingTheObjectLeavesTheOpenDialogAndKeepsTheServerUntilItCloses) {
+  ComPtr<IDispatch> object = host_.Create();
+  ASSERT_TRUE(object);
+  host_.SetUp(*object, "business");
+  RecordingSink sink;
+  ASSERT_NE(DialogHost::Advise(*object, sink), 0u);
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  object.reset();
+  // The sink was released with the object; the window (whose procedure is in the server) is
+  // still there, so the server may not be unloaded.
+  EXPECT_EQ(sink.references, 1u);
+  EXPECT_TRUE(::IsWindow(dialog));
+  EXPECT_EQ(host_.CanUnloadNow(), S_FALSE);
+  // The person can still use it; closing it raises nothing to nobody and frees the server.
+  PostKey(::GetFocus(), VK_TAB);
+  ::PostMessageW(dialog, WM_CLOSE, 0, 0);
+  ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindow(dialog); }));
+  EXPECT_EQ(host_.CanUnloadNow(), S_OK);
+  EXPECT_EQ(sink.events, "2");
+}
+
+TEST_F(DialogClient, ModalShowsRunTheirOwnLoopAndReturnTheCloseResult) {
+  ComPtr<IDispatch> object = host_.Create();
+  ASSERT_TRUE(object);
+  host_.SetUp(*object, "international");
+  // The close box of the modal dialog, clicked while ShowForm waits.
+  bool closed = false;
+  host_.WhileModal([&] {
+    const HWND dialog = FindForm(kBillerCaption);
+    if (dialog == nullptr || !::IsWindowEnabled(dialog)) return false;
+    closed = ::PostMessageW(dialog, WM_CLOSE, 0, 0) != 0;
+    return true;
+  });
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm"), 50000);
+  EXPECT_TRUE(closed);
+
+  // The foreign bank dialog opens modal over the embedded biller dialog, which is disabled while
+  // it is up; cancelling it returns to the biller dialog.
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND biller = DialogOf(*object);
+  bool owner_disabled = false;
+  host_.WhileModal([&] {
+    const HWND bank = FindForm(kBankCaption);
+    if (bank == nullptr) return false;
+    owner_disabled = !::IsWindowEnabled(biller);
+    ::SendMessageW(FindControl(bank, L"Cancel"), BM_CLICK, 0, 0);
+    return true;
+  });
+  ::SendMessageW(FindControl(biller, L"&Enter Banking Information"), BM_CLICK, 0, 0);
+  EXPECT_TRUE(owner_disabled);
+  EXPECT_EQ(FindForm(kBankCaption), nullptr);
+  EXPECT_TRUE(::IsWindowEnabled(biller));
+  DialogHost::Call(*object, L"Unload_From_Remote");
+  EXPECT_FALSE(::IsWindow(biller));
+}
+
+// Under a display (--screenshots DIR): each layout of the biller dialog and the foreign bank
+// dialog, drawn, of their designed size, written as BMP files.
+class Screenshots : public DialogClient {};
+
+TEST_F(Screenshots, EachLayoutAndTheForeignBankDialogAreDrawnAtTheirDesignedSize) {
+  ASSERT_FALSE(g_screenshots.empty()) << "run with --screenshots DIR";
+  for (const char* layout : {"business", "individual", "us", "international"}) {
+    SCOPED_TRACE(layout);
+    ComPtr<IDispatch> object = host_.Create();
+    ASSERT_TRUE(object);
+    host_.SetUp(*object, layout);
+    EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+    const HWND dialog = DialogOf(*object);
+    const Capture shot = CaptureClient(dialog, host_);
+    EXPECT_EQ(shot.width, Pixels(DialogHost::Call(*object, L"Get_Width")));
+    EXPECT_EQ(shot.height, Pixels(DialogHost::Call(*object, L"Get_Height")));
+    ExpectDrawn(shot);
+    EXPECT_TRUE(WriteBmp(shot, g_screenshots + L"\\biller-" +
+                                   std::wstring(layout, layout + strlen(layout)) + L".bmp"));
+    if (std::string_view(layout) == "international") {
+      Capture bank;
+      host_.WhileModal([&] {
+        const HWND window = FindForm(kBankCaption);
+        if (window == nullptr) return false;
+        bank = CaptureClient(window, host_);
+        ::PostMessageW(window, WM_CLOSE, 0, 0);
+        return true;
+      });
+      ::SendMessageW(FindControl(dialog, L"&Enter Banking Information"), BM_CLICK, 0, 0);
+      ExpectDrawn(bank);
+      EXPECT_TRUE(WriteBmp(bank, g_screenshots + L"\\foreign-bank.bmp"));
+    }
+    DialogHost::Call(*object, L"Unload_From_Remote");
+  }
+}
+
+}  // namespace
+}  // namespace nvrandom::com::test
+
+// Arguments: --install DIR (the installation folder, a Windows path), [--screenshots DIR].
+int main(int argc, char** argv) {
+  ::testing::InitGoogleTest(&argc, argv);
+  using nvrandom::com::test::g_install;
+  using nvrandom::com::test::g_screenshots;
+  for (int i = 1; i + 1 < argc; ++i) {
+    const std::string option = argv[i];
+    std::wstring value;
+    for (const char* c = argv[i + 1]; *c != '\0'; ++c) value += *c == '/' ? L'\\' : wchar_t(*c);
+    if (option == "--install") g_install = value + L"\\";
+    if (option == "--screenshots") g_screenshots = value;
+  }
+  return RUN_ALL_TESTS();
+}
