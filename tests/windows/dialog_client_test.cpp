@@ -11,6 +11,7 @@ namespace {
 
 constexpr const wchar_t* kBillerCaption = L"Norvik - Biller / Funds Transfer Information";
 constexpr const wchar_t* kBankCaption = L"International Payment Banking Information";
+constexpr const wchar_t* kChequeCaption = L"Sample Cheque";
 
 HWND DialogOf(IDispatch& object) {
   return reinterpret_cast<HWND>(static_cast<INT_PTR>(DialogHost::Call(object, L"Get_hWnd")));
@@ -161,7 +162,7 @@ TEST_F(DialogClient, ModalShowsRunTheirOwnLoopAndReturnTheCloseResult) {
     ::SendMessageW(FindControl(bank, L"Cancel"), BM_CLICK, 0, 0);
     return true;
   });
-  ::SendMessageW(FindControl(biller, L"&Enter Banking Information"), BM_CLICK, 0, 0);
+  ::SendMessageW(FindControl(biller, L"Enter Banking Information"), BM_CLICK, 0, 0);
   EXPECT_TRUE(owner_disabled);
   EXPECT_EQ(FindForm(kBankCaption), nullptr);
   EXPECT_TRUE(::IsWindowEnabled(biller));
@@ -169,13 +170,33 @@ TEST_F(DialogClient, ModalShowsRunTheirOwnLoopAndReturnTheCloseResult) {
   EXPECT_FALSE(::IsWindow(biller));
 }
 
-// Under a display (--screenshots DIR): each layout of the biller dialog and the foreign bank
-// dialog, drawn, of their designed size, written as BMP files.
-class Screenshots : public DialogClient {};
+// Under a display (--screenshots DIR): each layout of the biller dialog, the foreign bank
+// dialog and the sample cheque, drawn, of their designed size, written as BMP files.
+class Screenshots : public DialogClient {
+ protected:
+  void Save(const Capture& shot, const std::wstring& name) {
+    ExpectDrawn(shot);
+    EXPECT_TRUE(WriteBmp(shot, g_screenshots + L"\\" + name + L".bmp"));
+  }
+  // Clicks `button` of `dialog`, which opens the modal dialog `caption`; captures and closes it.
+  void SaveModal(HWND dialog, const wchar_t* button, const wchar_t* caption,
+                 const std::wstring& name) {
+    Capture shot;
+    host_.WhileModal([&] {
+      const HWND window = FindForm(caption);
+      if (window == nullptr) return false;
+      shot = CaptureClient(window, host_);
+      ::PostMessageW(window, WM_CLOSE, 0, 0);
+      return true;
+    });
+    ::SendMessageW(FindControl(dialog, button), BM_CLICK, 0, 0);
+    Save(shot, name);
+  }
+};
 
-TEST_F(Screenshots, EachLayoutAndTheForeignBankDialogAreDrawnAtTheirDesignedSize) {
+TEST_F(Screenshots, EachDialogAndLayoutIsDrawnAtItsDesignedSize) {
   ASSERT_FALSE(g_screenshots.empty()) << "run with --screenshots DIR";
-  for (const char* layout : {"business", "individual", "us", "international"}) {
+  for (const std::string layout : {"business", "individual", "us", "international"}) {
     SCOPED_TRACE(layout);
     ComPtr<IDispatch> object = host_.Create();
     ASSERT_TRUE(object);
@@ -185,21 +206,12 @@ TEST_F(Screenshots, EachLayoutAndTheForeignBankDialogAreDrawnAtTheirDesignedSize
     const Capture shot = CaptureClient(dialog, host_);
     EXPECT_EQ(shot.width, Pixels(DialogHost::Call(*object, L"Get_Width")));
     EXPECT_EQ(shot.height, Pixels(DialogHost::Call(*object, L"Get_Height")));
-    ExpectDrawn(shot);
-    EXPECT_TRUE(WriteBmp(shot, g_screenshots + L"\\biller-" +
-                                   std::wstring(layout, layout + strlen(layout)) + L".bmp"));
-    if (std::string_view(layout) == "international") {
-      Capture bank;
-      host_.WhileModal([&] {
-        const HWND window = FindForm(kBankCaption);
-        if (window == nullptr) return false;
-        bank = CaptureClient(window, host_);
-        ::PostMessageW(window, WM_CLOSE, 0, 0);
-        return true;
-      });
-      ::SendMessageW(FindControl(dialog, L"&Enter Banking Information"), BM_CLICK, 0, 0);
-      ExpectDrawn(bank);
-      EXPECT_TRUE(WriteBmp(bank, g_screenshots + L"\\foreign-bank.bmp"));
+    Save(shot, L"biller-" + std::wstring(layout.begin(), layout.end()));
+    if (layout == "individual") {
+      SaveModal(dialog, L"View Sample Cheque", kChequeCaption, L"sample-cheque");
+    }
+    if (layout == "international") {
+      SaveModal(dialog, L"Enter Banking Information", kBankCaption, L"foreign-bank");
     }
     DialogHost::Call(*object, L"Unload_From_Remote");
   }

@@ -67,6 +67,7 @@ const std::map<std::string_view, std::vector<HostValue>>& Samples() {
         {L"PayeePostal", L"14202"},
         {L"PayeePhoneArea", L"716"},
         {L"PayeePhoneNumber", L"5550199"},
+        {L"PayeeEmail", L"ap@lakeshore.example.com"},
         {L"PayeeBankTransit", L"021000021"},
         {L"PayeeCurrency", L"USD"}}},
       {"international",
@@ -83,6 +84,7 @@ const std::map<std::string_view, std::vector<HostValue>>& Samples() {
         {L"PayeePhoneCountryCode", L"49"},
         {L"PayeeFXPhoneNumber", L"2215550123"},
         {L"PayeeEmail", L"rechnung@example.de"},
+        {L"PayeeBusinessNum", L""},
         {L"PayeeCurrency", L"EUR"},
         {L"PayeeFXBankName", L"RHEINBANK AG"},
         {L"PayeeFXBankAddress", L"BANKPLATZ 1"},
@@ -116,7 +118,12 @@ BOOL CALLBACK AnswerMessageBox(HWND hwnd, LPARAM) {
 
 void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
   ::EnumThreadWindows(::GetCurrentThreadId(), &AnswerMessageBox, 0);
-  if (g_modal_action && g_modal_action()) g_modal_action = nullptr;
+  // An action may pump messages itself: it is not run again from inside itself.
+  static bool acting = false;
+  if (acting || !g_modal_action) return;
+  acting = true;
+  if (g_modal_action()) g_modal_action = nullptr;
+  acting = false;
 }
 
 struct Search {
@@ -124,9 +131,15 @@ struct Search {
   HWND found;
 };
 
+// A caption as a person reads it: "&OK" reads "OK".
+std::wstring Readable(std::wstring caption) {
+  std::erase(caption, L'&');
+  return caption;
+}
+
 BOOL CALLBACK MatchCaption(HWND hwnd, LPARAM data) {
   auto* search = reinterpret_cast<Search*>(data);
-  if (WindowText(hwnd) != search->caption || !::IsWindowVisible(hwnd)) return TRUE;
+  if (Readable(WindowText(hwnd)) != search->caption || !::IsWindowVisible(hwnd)) return TRUE;
   search->found = hwnd;
   return FALSE;
 }

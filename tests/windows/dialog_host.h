@@ -87,8 +87,8 @@ extern std::wstring g_install;
 // Where screenshots go (empty: no screenshots are taken).
 extern std::wstring g_screenshots;
 
-// The dialog's controls, found as a person finds them: by their caption, or the one with the
-// keyboard focus.
+// A shown control of the dialog, found as a person finds it: by its caption as it reads (access
+// key marks left out).
 HWND FindControl(HWND form, const wchar_t* caption);
 // A shown top-level form window of this thread with that caption (nullptr when none).
 HWND FindForm(const wchar_t* caption);

@@ -62,7 +62,7 @@ void ExpectDrawn(const Capture& capture) {
       std::max_element(counts.begin(), counts.end(),
                        [](const auto& a, const auto& b) { return a.second < b.second; });
   const size_t drawn = capture.pixels.size() - background->second;
-  EXPECT_GE(counts.size(), 8u) << "colours";
+  EXPECT_GE(counts.size(), 5u) << "colours";
   EXPECT_GT(drawn * 50, capture.pixels.size()) << "pixels unlike the background: " << drawn;
 }
 

@@ -90,17 +90,25 @@ void DrawCheque(HDC dc, const RECT& bounds) {
   Text(dc, c, 22, 144, 12, true, L"YOUR BANK", ink);
   Text(dc, c, 22, 160, 10, false, L"Branch address", ink);
   Text(dc, c, 330, 200, 10, false, L"SIGNATURE", ink);
-  // The encoded line: cheque number, transit (5), institution (3), account.
-  Text(dc, c, 22, 222, 15, true, L"042    12345  003    1234567", ink);
+  // The encoded line: cheque number, then transit (5 digits), bank id (3) and account, each
+  // marked with its name.
+  Text(dc, c, 22, 222, 15, true, L"042", ink);
   ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
-  const HPEN mark = ::CreatePen(PS_SOLID, 2, RGB(0xC0, 0x30, 0x30));
+  const COLORREF red = RGB(0xC0, 0x30, 0x30);
+  const HPEN mark = ::CreatePen(PS_SOLID, 2, red);
   ::SelectObject(dc, mark);
-  ::Rectangle(dc, c.X(84), c.Y(216), c.X(160), c.Y(244));
-  ::Rectangle(dc, c.X(166), c.Y(216), c.X(214), c.Y(244));
-  ::Rectangle(dc, c.X(232), c.Y(216), c.X(340), c.Y(244));
-  Text(dc, c, 92, 244, 10, false, L"Transit", RGB(0xC0, 0x30, 0x30));
-  Text(dc, c, 166, 244, 10, false, L"Bank ID", RGB(0xC0, 0x30, 0x30));
-  Text(dc, c, 252, 244, 10, false, L"Account", RGB(0xC0, 0x30, 0x30));
+  struct Field {
+    int left;
+    int right;
+    const wchar_t* digits;
+    const wchar_t* name;
+  };
+  for (const Field& f : {Field{84, 170, L"12345", L"Transit"}, Field{180, 240, L"003", L"Bank ID"},
+                         Field{250, 370, L"1234567", L"Account"}}) {
+    ::Rectangle(dc, c.X(f.left), c.Y(216), c.X(f.right), c.Y(244));
+    Text(dc, c, f.left + 6, 222, 15, true, f.digits, ink);
+    Text(dc, c, f.left + 6, 246, 10, false, f.name, red);
+  }
   ::SelectObject(dc, old_pen);
   ::SelectObject(dc, old_brush);
   ::DeleteObject(mark);
