@@ -1,9 +1,11 @@
 // A host of NVRandom.dll's real dialogs: events through connection points while the person's keys
 // and clicks reach the dialog's windows, embedding by SetParent, releasing the object with the
 // dialog open, and modal shows with their own message loop (a nested dialog too).
+#include "dialog_host.h"
+// After windows.h (dialog_host.h).
+#include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include "dialog_host.h"
 #include "screenshot.h"
 
 namespace nvrandom::com::test {
@@ -83,6 +85,51 @@ TEST_F(DialogClient, EmbeddedDialogRaisesItsEventsThroughConnectionPoints) {
       << sink.events << " focus: " << testing::PrintToString(WindowText(::GetFocus()));
   EXPECT_NE(sink.events.find('1'), std::string::npos) << sink.events;
   EXPECT_EQ(sink.events.find('3'), std::string::npos) << sink.events;
+}
+
+std::wstring Heading(HWND list, int column) {
+  wchar_t text[64] = {};
+  LVCOLUMNW info{};
+  info.mask = LVCF_TEXT;
+  info.pszText = text;
+  info.cchTextMax = 64;
+  ::SendMessageW(list, LVM_GETCOLUMNW, static_cast<WPARAM>(column),
+                 reinterpret_cast<LPARAM>(&info));
+  return text;
+}
+
+TEST_F(DialogClient, DataListsDropDownATableUnderTheirColumnHeadings) {
+  ComPtr<IDispatch> object = host_.Create();
+  ASSERT_TRUE(object);
+  host_.SetUp(*object, "business");
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  const HWND country = FindControl(dialog, L"CA");
+  ASSERT_NE(country, nullptr);
+  ::SendMessageW(country, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+  const HWND popup = ::FindWindowW(L"NVRandomDropDown", nullptr);
+  ASSERT_TRUE(popup != nullptr && ::IsWindowVisible(popup));
+  const HWND table = ::GetWindow(popup, GW_CHILD);
+  EXPECT_EQ(Heading(table, 0), L"Country");
+  EXPECT_EQ(Heading(table, 1), L"Code");
+  EXPECT_EQ(Heading(table, 2), L"Phone");
+  EXPECT_GT(::SendMessageW(table, LVM_GETITEMCOUNT, 0, 0), 200);
+
+  // Enter on a row chooses it: the box shows the row's code, the model's choice.
+  LVFINDINFOW find{};
+  find.flags = LVFI_STRING;
+  find.psz = L"United States";
+  const auto row = static_cast<int>(::SendMessageW(table, LVM_FINDITEMW, static_cast<WPARAM>(-1),
+                                                   reinterpret_cast<LPARAM>(&find)));
+  ASSERT_GE(row, 0);
+  LVITEMW state{};
+  state.stateMask = state.state = LVIS_SELECTED | LVIS_FOCUSED;
+  ::SendMessageW(table, LVM_SETITEMSTATE, static_cast<WPARAM>(row),
+                 reinterpret_cast<LPARAM>(&state));
+  PostKey(table, VK_RETURN);
+  ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindowVisible(popup); }));
+  EXPECT_EQ(WindowText(country), L"US");
+  DialogHost::Call(*object, L"Unload_From_Remote");
 }
 
 TEST_F(DialogClient, HostEmbedsTheDialogWithSetParentAtItsDesignedSize) {
