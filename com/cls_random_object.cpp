@@ -199,8 +199,10 @@ class ClsRandomObject final : public _ClsRandom,
     if (params == nullptr) return E_INVALIDARG;
     if (const HRESULT hr = CheckArguments(id, flags, *params); FAILED(hr)) return hr;
     ::SetErrorInfo(0, nullptr);
-    return type_info_->Invoke(static_cast<_ClsRandom*>(this), id, flags, params, result, error,
-                              arg_error);
+    const ComPtr<ITypeInfo> type_info = type_info_;
+    const KeepAlive keep(*this);
+    return type_info->Invoke(static_cast<_ClsRandom*>(this), id, flags, params, result, error,
+                             arg_error);
   }
 
   // _ClsRandom, generated from the member table.
@@ -231,10 +233,12 @@ class ClsRandomObject final : public _ClsRandom,
 #define NVRANDOM_COM_METHOD_Long(name)              \
   STDMETHODIMP name(long* result) override {        \
     if (result == nullptr) return E_POINTER;        \
+    const KeepAlive keep(*this);                    \
     return Guarded([&] { *result = cls_.name(); }); \
   }
 #define NVRANDOM_COM_METHOD_Void(name)    \
   STDMETHODIMP name() override {          \
+    const KeepAlive keep(*this);          \
     return Guarded([&] { cls_.name(); }); \
   }
 #define NVRANDOM_COM_METHOD(dispid, name, result) NVRANDOM_COM_METHOD_##result(name)
@@ -272,6 +276,19 @@ class ClsRandomObject final : public _ClsRandom,
   }
 
  private:
+  // A method that shows a dialog runs a message loop, in which the host may release its last
+  // reference: the object lives until the call has returned.
+  class KeepAlive {
+   public:
+    explicit KeepAlive(ClsRandomObject& object) : object_(object) { object_.AddRef(); }
+    ~KeepAlive() { object_.Release(); }
+    KeepAlive(const KeepAlive&) = delete;
+    KeepAlive& operator=(const KeepAlive&) = delete;
+
+   private:
+    ClsRandomObject& object_;
+  };
+
   std::atomic<ULONG> references_{1};
   ComPtr<ITypeInfo> type_info_;
   EventPoint events_;

@@ -182,6 +182,23 @@ TEST_F(DialogClient, ReleasingTheObjectLeavesTheOpenDialogAndKeepsTheServerUntil
   EXPECT_EQ(sink.events, "2");
 }
 
+TEST_F(DialogClient, ReleasingTheObjectDuringAModalShowEndsItCleanlyWhenTheDialogCloses) {
+  ComPtr<IDispatch> object = host_.Create();
+  ASSERT_TRUE(object);
+  host_.SetUp(*object, "business");
+  IDispatch* const calling = object.get();
+  host_.WhileModal([&] {
+    const HWND dialog = FindForm(kBillerCaption);
+    if (dialog == nullptr) return false;
+    object.reset();  // the host's last reference, while ShowForm is still running
+    ::PostMessageW(dialog, WM_CLOSE, 0, 0);
+    return true;
+  });
+  EXPECT_EQ(DialogHost::Call(*calling, L"ShowForm"), 50000);
+  EXPECT_FALSE(object);
+  EXPECT_EQ(host_.CanUnloadNow(), S_OK);  // the object went once the call had returned
+}
+
 TEST_F(DialogClient, ModalShowsRunTheirOwnLoopAndReturnTheCloseResult) {
   ComPtr<IDispatch> object = host_.Create();
   ASSERT_TRUE(object);
