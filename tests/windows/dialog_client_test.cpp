@@ -36,9 +36,8 @@ class DialogClient : public ::testing::Test {
 };
 
 TEST_F(DialogClient, EmbeddedDialogRaisesItsEventsThroughConnectionPoints) {
-  ComPtr<IDispatch> object = host_.Create();
+  ComPtr<IDispatch> object = host_.Create("business");
   ASSERT_TRUE(object);
-  host_.SetUp(*object, "business");
   RecordingSink sink;
   ASSERT_NE(DialogHost::Advise(*object, sink), 0u);
 
@@ -99,9 +98,8 @@ std::wstring Heading(HWND list, int column) {
 }
 
 TEST_F(DialogClient, DataListsDropDownATableUnderTheirColumnHeadings) {
-  ComPtr<IDispatch> object = host_.Create();
+  ComPtr<IDispatch> object = host_.Create("business");
   ASSERT_TRUE(object);
-  host_.SetUp(*object, "business");
   EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
   const HWND dialog = DialogOf(*object);
   const HWND country = FindControl(dialog, L"CA");
@@ -133,9 +131,8 @@ TEST_F(DialogClient, DataListsDropDownATableUnderTheirColumnHeadings) {
 }
 
 TEST_F(DialogClient, HostEmbedsTheDialogWithSetParentAtItsDesignedSize) {
-  ComPtr<IDispatch> object = host_.Create();
+  ComPtr<IDispatch> object = host_.Create("business");
   ASSERT_TRUE(object);
-  host_.SetUp(*object, "business");
   const HWND container = ::CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW, 0, 0, 900,
                                            700, nullptr, nullptr, nullptr, nullptr);
   ASSERT_NE(container, nullptr);
@@ -161,9 +158,8 @@ TEST_F(DialogClient, HostEmbedsTheDialogWithSetParentAtItsDesignedSize) {
 }
 
 TEST_F(DialogClient, ReleasingTheObjectLeavesTheOpenDialogAndKeepsTheServerUntilItCloses) {
-  ComPtr<IDispatch> object = host_.Create();
+  ComPtr<IDispatch> object = host_.Create("business");
   ASSERT_TRUE(object);
-  host_.SetUp(*object, "business");
   RecordingSink sink;
   ASSERT_NE(DialogHost::Advise(*object, sink), 0u);
   EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
@@ -183,9 +179,8 @@ TEST_F(DialogClient, ReleasingTheObjectLeavesTheOpenDialogAndKeepsTheServerUntil
 }
 
 TEST_F(DialogClient, ReleasingTheObjectDuringAModalShowEndsItCleanlyWhenTheDialogCloses) {
-  ComPtr<IDispatch> object = host_.Create();
+  ComPtr<IDispatch> object = host_.Create("business");
   ASSERT_TRUE(object);
-  host_.SetUp(*object, "business");
   IDispatch* const calling = object.get();
   host_.WhileModal([&] {
     const HWND dialog = FindForm(kBillerCaption);
@@ -200,9 +195,8 @@ TEST_F(DialogClient, ReleasingTheObjectDuringAModalShowEndsItCleanlyWhenTheDialo
 }
 
 TEST_F(DialogClient, ModalShowsRunTheirOwnLoopAndReturnTheCloseResult) {
-  ComPtr<IDispatch> object = host_.Create();
+  ComPtr<IDispatch> object = host_.Create("international");
   ASSERT_TRUE(object);
-  host_.SetUp(*object, "international");
   // The close box of the modal dialog, clicked while ShowForm waits.
   bool closed = false;
   host_.WhileModal([&] {
@@ -262,9 +256,8 @@ TEST_F(Screenshots, EachDialogAndLayoutIsDrawnAtItsDesignedSize) {
   ASSERT_FALSE(g_screenshots.empty()) << "run with --screenshots DIR";
   for (const std::string layout : {"business", "individual", "us", "international"}) {
     SCOPED_TRACE(layout);
-    ComPtr<IDispatch> object = host_.Create();
+    ComPtr<IDispatch> object = host_.Create(layout);
     ASSERT_TRUE(object);
-    host_.SetUp(*object, layout);
     EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
     const HWND dialog = DialogOf(*object);
     const Capture shot = CaptureClient(dialog, host_);

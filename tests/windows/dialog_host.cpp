@@ -203,12 +203,16 @@ DialogHost::~DialogHost() {
   if (module_ != nullptr) ::FreeLibrary(module_);
 }
 
-ComPtr<IDispatch> DialogHost::Create() {
+ComPtr<IDispatch> DialogHost::Create(std::string_view layout) {
   ComPtr<IClassFactory> factory;
   ComPtr<IDispatch> object;
-  if (get_class_object_(CLSID_ClsRandom, IID_IClassFactory, factory.put_void()) == S_OK) {
-    factory->CreateInstance(nullptr, IID_IDispatch, object.put_void());
+  if (get_class_object_(CLSID_ClsRandom, IID_IClassFactory, factory.put_void()) != S_OK ||
+      factory->CreateInstance(nullptr, IID_IDispatch, object.put_void()) != S_OK) {
+    return {};
   }
+  Let(*object, {L"DLLPath", g_install.c_str()});
+  for (const HostValue& value : kInstallation) Let(*object, value);
+  for (const HostValue& value : SampleBiller(layout)) Let(*object, value);
   return object;
 }
 
@@ -238,12 +242,6 @@ HRESULT DialogHost::Let(IDispatch& object, const HostValue& value) {
   DISPPARAMS params{&argument, &named, 1, 1};
   return object.Invoke(IdOf(object, value.name), IID_NULL, LOCALE_USER_DEFAULT,
                        DISPATCH_PROPERTYPUT, &params, nullptr, nullptr, nullptr);
-}
-
-void DialogHost::SetUp(IDispatch& object, std::string_view layout) {
-  Let(object, {L"DLLPath", g_install.c_str()});
-  for (const HostValue& value : kInstallation) Let(object, value);
-  for (const HostValue& value : SampleBiller(layout)) Let(object, value);
 }
 
 long DialogHost::Call(IDispatch& object, const wchar_t* method) {

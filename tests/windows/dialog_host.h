@@ -56,9 +56,8 @@ class DialogHost {
   bool loaded() const { return get_class_object_ != nullptr && can_unload_now_ != nullptr; }
   HRESULT CanUnloadNow() const { return can_unload_now_(); }
 
-  ComPtr<IDispatch> Create();
-  // Sets the installation values and one sample biller.
-  void SetUp(IDispatch& object, std::string_view layout);
+  // A new object with the installation values and the sample biller of `layout` set.
+  ComPtr<IDispatch> Create(std::string_view layout);
   static HRESULT Let(IDispatch& object, const HostValue& value);
   // Calls a method without arguments; its Long result, or the failed HRESULT as -1.
   static long Call(IDispatch& object, const wchar_t* method);

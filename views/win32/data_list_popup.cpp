@@ -169,18 +169,8 @@ LRESULT DataListPopup::Message(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 LRESULT CALLBACK DataListPopup::WindowProc(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
-  if (message == WM_NCCREATE) {
-    const auto* create = reinterpret_cast<const CREATESTRUCTW*>(lparam);
-    auto* popup = static_cast<DataListPopup*>(create->lpCreateParams);
-    popup->hwnd_ = hwnd;
-    ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(popup));
-  }
-  auto* popup = reinterpret_cast<DataListPopup*>(::GetWindowLongPtrW(hwnd, GWLP_USERDATA));
-  if (message == WM_NCDESTROY) ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
-  if (popup == nullptr || message == WM_NCDESTROY) {
-    return ::DefWindowProcW(hwnd, message, wparam, lparam);
-  }
-  return popup->Message(message, wparam, lparam);
+  return DispatchToOwner(hwnd, message, wparam, lparam, &DataListPopup::hwnd_,
+                         &DataListPopup::Message);
 }
 
 }  // namespace nvrandom::win32

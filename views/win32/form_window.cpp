@@ -680,20 +680,8 @@ LRESULT FormWindow::FormMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 LRESULT CALLBACK FormWindow::WindowProc(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
-  if (message == WM_NCCREATE) {
-    const auto* create = reinterpret_cast<const CREATESTRUCTW*>(lparam);
-    auto* window = static_cast<FormWindow*>(create->lpCreateParams);
-    window->hwnd_ = hwnd;
-    ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(window));
-  }
-  auto* window = reinterpret_cast<FormWindow*>(::GetWindowLongPtrW(hwnd, GWLP_USERDATA));
-  if (message == WM_NCDESTROY) {
-    ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
-    if (window != nullptr) window->hwnd_ = nullptr;
-    window = nullptr;
-  }
-  if (window == nullptr) return ::DefWindowProcW(hwnd, message, wparam, lparam);
-  return window->FormMessage(message, wparam, lparam);
+  return DispatchToOwner(hwnd, message, wparam, lparam, &FormWindow::hwnd_,
+                         &FormWindow::FormMessage);
 }
 
 }  // namespace nvrandom::win32
