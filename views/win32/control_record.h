@@ -20,6 +20,10 @@ struct ControlRecord {
   wchar_t high_surrogate = 0;  // the first half of a character typed as two WM_CHARs
 };
 
+inline bool IsListKind(forms::ControlKind kind) {
+  return kind == forms::ControlKind::kComboBox || kind == forms::ControlKind::kDataList;
+}
+
 // How one kind of control is shown: the native window it gets and the update of its own
 // properties (those every kind has are updated by the form window).
 struct KindView {

@@ -70,6 +70,10 @@ class FormWindow {
   static constexpr const wchar_t* kClassName = L"NVRandomForm";
 
  private:
+  // Posted to the form window to put the keyboard back where the model has the focus, once
+  // Windows has finished moving it.
+  static constexpr UINT kSyncFocus = WM_APP + 1;
+
   ControlRecord* RecordOf(HWND hwnd) const;
   ControlRecord* RecordOf(const forms::Control& control) const;
   void Update(ControlRecord& record, forms::Property property);

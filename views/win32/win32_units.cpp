@@ -31,14 +31,4 @@ COLORREF ToColorRef(uint32_t color) {
   return static_cast<COLORREF>(color & 0x00FFFFFF);
 }
 
-std::wstring WithoutAccessKeys(std::wstring_view caption) {
-  std::wstring out;
-  out.reserve(caption.size());
-  for (size_t i = 0; i < caption.size(); ++i) {
-    if (caption[i] == L'&' && i + 1 < caption.size()) ++i;
-    out += caption[i];
-  }
-  return out;
-}
-
 }  // namespace nvrandom::win32

@@ -3,8 +3,6 @@
 #include <windows.h>
 
 #include <cstdint>
-#include <string>
-#include <string_view>
 
 namespace nvrandom::win32 {
 
@@ -20,9 +18,5 @@ COLORREF ToColorRef(uint32_t color);
 
 // The dialogs' fonts are designed at this size, in points.
 inline constexpr int kPointSize = 8;
-
-// A caption's text with the platform's access-key marks removed ("&Name" -> "Name", "&&" -> "&"),
-// for controls that draw the text themselves.
-std::wstring WithoutAccessKeys(std::wstring_view caption);
 
 }  // namespace nvrandom::win32
