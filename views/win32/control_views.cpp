@@ -64,7 +64,7 @@ HWND CreateLabel(ControlRecord&, HWND parent, int id) {
 // Text boxes ----------------------------------------------------------------------------------
 
 HWND CreateTextBox(ControlRecord&, HWND parent, int id) {
-  return Child(L"EDIT", ES_LEFT | ES_AUTOHSCROLL | ES_NOHIDESEL, WS_EX_CLIENTEDGE, parent, id);
+  return Child(L"EDIT", ES_LEFT | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE, parent, id);
 }
 
 void UpdateEdit(HWND edit, const Control& control, Property p) {

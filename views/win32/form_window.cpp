@@ -278,6 +278,7 @@ void FormWindow::ShowModal(HWND owner) {
 }
 
 void FormWindow::ShowEmbedded() {
+  FormChanged(Property::kLeft);  // where the model has it, also when that did not change
   ::ShowWindow(hwnd_, SW_SHOW);
   ShowFocus();
 }
