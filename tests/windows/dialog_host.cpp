@@ -17,6 +17,9 @@ namespace {
 
 std::vector<std::wstring> g_message_boxes;
 std::function<bool()> g_modal_action;
+DWORD g_modal_deadline = 0;
+// How long a modal action may wait for its dialog.
+constexpr DWORD kModalLimit = 10000;
 
 const std::vector<HostValue> kInstallation = {
     {L"Provpostalstr", L"ABTBCVMBRNBENLANSBNTXNUXONKONLONMONNONPPEUQCGQCHQCJSKSYTY"},
@@ -116,13 +119,27 @@ BOOL CALLBACK AnswerMessageBox(HWND hwnd, LPARAM) {
   return TRUE;
 }
 
+BOOL CALLBACK CloseForm(HWND hwnd, LPARAM) {
+  wchar_t window_class[32] = {};
+  ::GetClassNameW(hwnd, window_class, 32);
+  if (std::wstring_view(window_class) == L"NVRandomForm") ::PostMessageW(hwnd, WM_CLOSE, 0, 0);
+  return TRUE;
+}
+
 void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
   ::EnumThreadWindows(::GetCurrentThreadId(), &AnswerMessageBox, 0);
   // An action may pump messages itself: it is not run again from inside itself.
   static bool acting = false;
   if (acting || !g_modal_action) return;
   acting = true;
-  if (g_modal_action()) g_modal_action = nullptr;
+  if (g_modal_action()) {
+    g_modal_action = nullptr;
+  } else if (static_cast<LONG>(::GetTickCount() - g_modal_deadline) > 0) {
+    // Never waits for ever: the dialogs of the thread are closed and the test fails.
+    g_modal_action = nullptr;
+    g_message_boxes.push_back(L"the modal action found no dialog to act on");
+    ::EnumThreadWindows(::GetCurrentThreadId(), &CloseForm, 0);
+  }
   acting = false;
 }
 
@@ -281,6 +298,7 @@ bool DialogHost::PumpUntil(const std::function<bool()>& done, DWORD milliseconds
 
 void DialogHost::WhileModal(std::function<bool()> action) {
   g_modal_action = std::move(action);
+  g_modal_deadline = ::GetTickCount() + kModalLimit;
 }
 
 const std::vector<std::wstring>& DialogHost::message_boxes() const {

@@ -68,10 +68,11 @@ class DialogHost {
   // Message boxes that open meanwhile are answered with their default button and recorded.
   bool PumpUntil(const std::function<bool()>& done, DWORD milliseconds = 5000);
   // While a modal loop of the server runs (inside a call): `action` is tried every few
-  // milliseconds from a timer until it returns true.
+  // milliseconds from a timer until it returns true. After 10 s the thread's dialogs are closed
+  // and the failure is recorded with the message boxes.
   void WhileModal(std::function<bool()> action);
 
-  // The texts of the message boxes answered so far.
+  // The texts of the message boxes answered so far (and of modal actions that gave up).
   const std::vector<std::wstring>& message_boxes() const;
 
  private:
