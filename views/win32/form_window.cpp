@@ -55,6 +55,9 @@ FormWindow::FormWindow(Win32View& view, forms::Form& form, int dpi)
     record->window = this;
     record->hwnd = ViewOf(control->kind()).create(*record, hwnd_, id++);
     if (record->input == nullptr) record->input = record->hwnd;
+    by_control_[record->control] = record.get();
+    by_window_[record->hwnd] = record.get();
+    by_window_[record->input] = record.get();
     records_.push_back(std::move(record));
   }
   // Containers may come after their controls in the table: placed once every window exists.
@@ -115,17 +118,13 @@ COLORREF FormWindow::BackgroundOf(const Control& control) const {
 }
 
 ControlRecord* FormWindow::RecordOf(HWND hwnd) const {
-  for (const auto& record : records_) {
-    if (record->hwnd == hwnd || record->input == hwnd) return record.get();
-  }
-  return nullptr;
+  const auto it = by_window_.find(hwnd);
+  return it == by_window_.end() ? nullptr : it->second;
 }
 
 ControlRecord* FormWindow::RecordOf(const Control& control) const {
-  for (const auto& record : records_) {
-    if (record->control == &control) return record.get();
-  }
-  return nullptr;
+  const auto it = by_control_.find(&control);
+  return it == by_control_.end() || it->second->control == nullptr ? nullptr : it->second;
 }
 
 void FormWindow::ControlChanged(Control& control, Property property) {

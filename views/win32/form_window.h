@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -94,6 +95,8 @@ class FormWindow {
   HWND hwnd_ = nullptr;
   HWND owner_ = nullptr;  // disabled while this window is shown modal over it
   std::vector<std::unique_ptr<ControlRecord>> records_;
+  std::unordered_map<const forms::Control*, ControlRecord*> by_control_;
+  std::unordered_map<HWND, ControlRecord*> by_window_;  // its window and its input window
   std::map<std::pair<std::string, bool>, HFONT> fonts_;
   std::map<COLORREF, HBRUSH> brushes_;
   std::unique_ptr<DataListPopup> popup_;
