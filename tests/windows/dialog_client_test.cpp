@@ -264,6 +264,7 @@ TEST_F(Screenshots, EachDialogAndLayoutIsDrawnAtItsDesignedSize) {
     EXPECT_EQ(shot.width, Pixels(DialogHost::Call(*object, L"Get_Width")));
     EXPECT_EQ(shot.height, Pixels(DialogHost::Call(*object, L"Get_Height")));
     Save(shot, L"biller-" + std::wstring(layout.begin(), layout.end()));
+    EXPECT_EQ(Background(shot), ToRgb(::GetSysColor(COLOR_BTNFACE)));  // the default style
     if (layout == "individual") {
       SaveModal(dialog, L"View Sample Cheque", kChequeCaption, L"sample-cheque");
     }
@@ -272,6 +273,22 @@ TEST_F(Screenshots, EachDialogAndLayoutIsDrawnAtItsDesignedSize) {
     }
     DialogHost::Call(*object, L"Unload_From_Remote");
   }
+}
+
+// The form style the host chose is what the person sees: white, with flat styled buttons.
+TEST_F(Screenshots, TheRestyledDialogsShowTheHostsStyle) {
+  ASSERT_FALSE(g_screenshots.empty()) << "run with --screenshots DIR";
+  ComPtr<IDispatch> object = host_.Create("international");
+  ASSERT_TRUE(object);
+  DialogHost::Let(*object, {L"FormStyle", short{2}});
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  const Capture shot = CaptureClient(dialog, host_);
+  EXPECT_EQ(Background(shot), 0xFFFFFFu);
+  Save(shot, L"biller-international-white");
+  SaveModal(dialog, L"Enter Banking Information", kBankCaption, L"foreign-bank-white");
+  DialogHost::Call(*object, L"Unload_From_Remote");
+  DialogHost::Let(*object, {L"FormStyle", short{0}});
 }
 
 }  // namespace

@@ -54,14 +54,36 @@ Capture CaptureClient(HWND window, DialogHost& host) {
   return capture;
 }
 
-void ExpectDrawn(const Capture& capture) {
-  ASSERT_FALSE(capture.pixels.empty());
+namespace {
+
+std::map<uint32_t, size_t> ColourCounts(const Capture& capture) {
   std::map<uint32_t, size_t> counts;
   for (const uint32_t p : capture.pixels) ++counts[p];
-  const auto background =
+  return counts;
+}
+
+std::pair<uint32_t, size_t> MostCommon(const std::map<uint32_t, size_t>& counts) {
+  const auto most =
       std::max_element(counts.begin(), counts.end(),
                        [](const auto& a, const auto& b) { return a.second < b.second; });
-  const size_t drawn = capture.pixels.size() - background->second;
+  if (most == counts.end()) return {0, 0};
+  return {most->first, most->second};
+}
+
+}  // namespace
+
+uint32_t Background(const Capture& capture) {
+  return MostCommon(ColourCounts(capture)).first;
+}
+
+uint32_t ToRgb(COLORREF color) {
+  return (GetRValue(color) << 16) | (GetGValue(color) << 8) | GetBValue(color);
+}
+
+void ExpectDrawn(const Capture& capture) {
+  ASSERT_FALSE(capture.pixels.empty());
+  const auto counts = ColourCounts(capture);
+  const size_t drawn = capture.pixels.size() - MostCommon(counts).second;
   EXPECT_GE(counts.size(), 5u) << "colours";
   EXPECT_GT(drawn * 50, capture.pixels.size()) << "pixels unlike the background: " << drawn;
 }

@@ -22,6 +22,10 @@ int SystemDpi();
 Capture CaptureClient(HWND window, DialogHost& host);
 // A dialog drawn, not a blank rectangle: many colours, and much of it unlike its background.
 void ExpectDrawn(const Capture& capture);
+// The colour most of the picture has.
+uint32_t Background(const Capture& capture);
+// A COLORREF (0x00BBGGRR) as a captured pixel (0x00RRGGBB).
+uint32_t ToRgb(COLORREF color);
 bool WriteBmp(const Capture& capture, const std::wstring& path);
 
 }  // namespace nvrandom::com::test
