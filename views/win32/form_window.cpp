@@ -39,6 +39,28 @@ LRESULT CALLBACK ControlProc(HWND hwnd, UINT message, WPARAM wparam, LPARAM lpar
   return record->window->ControlMessage(*record, hwnd, message, wparam, lparam);
 }
 
+// A host reparented the window (SetParent): inside another window it is a child without caption
+// or frame; back on the desktop it is a top-level window again. True when the style changed.
+bool FollowParentStyle(HWND hwnd) {
+  const HWND parent = ::GetAncestor(hwnd, GA_PARENT);
+  const bool inside_host = parent != nullptr && parent != ::GetDesktopWindow();
+  auto style = static_cast<DWORD>(::GetWindowLongPtrW(hwnd, GWL_STYLE));
+  auto ex_style = static_cast<DWORD>(::GetWindowLongPtrW(hwnd, GWL_EXSTYLE));
+  if (inside_host == ((style & WS_CHILD) != 0)) return false;
+  if (inside_host) {
+    style = (style & ~kTopLevelStyle) | WS_CHILD;
+    ex_style &= ~static_cast<DWORD>(WS_EX_DLGMODALFRAME);
+  } else {
+    style = (style & ~static_cast<DWORD>(WS_CHILD)) | kTopLevelStyle;
+    ex_style |= WS_EX_DLGMODALFRAME;
+  }
+  ::SetWindowLongPtrW(hwnd, GWL_STYLE, static_cast<LONG_PTR>(style));
+  ::SetWindowLongPtrW(hwnd, GWL_EXSTYLE, static_cast<LONG_PTR>(ex_style));
+  ::SetWindowPos(hwnd, nullptr, 0, 0, 0, 0,
+                 SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  return true;
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Win32View& view, forms::Form& form, int dpi)
@@ -218,32 +240,8 @@ void FormWindow::FitClientSize() {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// A host reparented the window (SetParent): inside another window it is a child without caption
-// or frame; back on the desktop it is a top-level window again.
-void FollowParentStyle(HWND hwnd, bool& changed) {
-  const HWND parent = ::GetAncestor(hwnd, GA_PARENT);
-  const bool inside_host = parent != nullptr && parent != ::GetDesktopWindow();
-  auto style = static_cast<DWORD>(::GetWindowLongPtrW(hwnd, GWL_STYLE));
-  auto ex_style = static_cast<DWORD>(::GetWindowLongPtrW(hwnd, GWL_EXSTYLE));
-  changed = inside_host != ((style & WS_CHILD) != 0);
-  if (!changed) return;
-  if (inside_host) {
-    style = (style & ~kTopLevelStyle) | WS_CHILD;
-    ex_style &= ~static_cast<DWORD>(WS_EX_DLGMODALFRAME);
-  } else {
-    style = (style & ~static_cast<DWORD>(WS_CHILD)) | kTopLevelStyle;
-    ex_style |= WS_EX_DLGMODALFRAME;
-  }
-  ::SetWindowLongPtrW(hwnd, GWL_STYLE, static_cast<LONG_PTR>(style));
-  ::SetWindowLongPtrW(hwnd, GWL_EXSTYLE, static_cast<LONG_PTR>(ex_style));
-  ::SetWindowPos(hwnd, nullptr, 0, 0, 0, 0,
-                 SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 void FormWindow::FollowParent() {
-  bool changed = false;
-  FollowParentStyle(hwnd_, changed);
-  if (changed) FitClientSize();
+  if (FollowParentStyle(hwnd_)) FitClientSize();
 }
 
 void FormWindow::ShowFocus() {
