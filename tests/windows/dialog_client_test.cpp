@@ -151,6 +151,14 @@ TEST_F(DialogClient, HostEmbedsTheDialogWithSetParentAtItsDesignedSize) {
   ::MapWindowPoints(nullptr, container, reinterpret_cast<POINT*>(&placed), 2);
   EXPECT_EQ(placed.left, 0);
   EXPECT_EQ(placed.top, 0);
+  // Given back to the desktop, it is a window of its own again, of the same client size.
+  ::SetParent(dialog, nullptr);
+  EXPECT_EQ(::GetWindowLongPtrW(dialog, GWL_STYLE) & WS_CHILD, 0);
+  EXPECT_NE(::GetWindowLongPtrW(dialog, GWL_STYLE) & WS_CAPTION, 0);
+  RECT own{};
+  ::GetClientRect(dialog, &own);
+  EXPECT_EQ(own.right, client.right);
+  EXPECT_EQ(own.bottom, client.bottom);
   // Closing from the host's side leaves no window behind.
   EXPECT_EQ(DialogHost::Call(*object, L"Unload_From_Remote"), 0);
   EXPECT_FALSE(::IsWindow(dialog));
