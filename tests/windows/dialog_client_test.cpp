@@ -6,6 +6,8 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "screenshot.h"
 
 namespace nvrandom::com::test {
@@ -127,6 +129,50 @@ TEST_F(DialogClient, DataListsDropDownATableUnderTheirColumnHeadings) {
   PostKey(table, VK_RETURN);
   ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindowVisible(popup); }));
   EXPECT_EQ(WindowText(country), L"US");
+  DialogHost::Call(*object, L"Unload_From_Remote");
+}
+
+// Puts `text` on the clipboard, as another program would.
+void CopyToClipboard(const std::wstring& text) {
+  ASSERT_TRUE(::OpenClipboard(nullptr));
+  ::EmptyClipboard();
+  const size_t bytes = (text.size() + 1) * sizeof(wchar_t);
+  const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes);
+  std::memcpy(::GlobalLock(memory), text.c_str(), bytes);
+  ::GlobalUnlock(memory);
+  ::SetClipboardData(CF_UNICODETEXT, memory);
+  ::CloseClipboard();
+}
+
+// The right button's menu on a text field: its Paste goes through the dialog's rules.
+TEST_F(DialogClient, ContextMenuPasteGoesThroughTheFieldsRules) {
+  ComPtr<IDispatch> object = host_.Create("business");
+  ASSERT_TRUE(object);
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  struct Row {
+    const wchar_t* field;  // its text, which finds it
+    bool pasted;
+  };
+  for (const Row& row : {Row{L"TORONTO", true}, Row{L"billing@example.com", false}}) {
+    SCOPED_TRACE(testing::PrintToString(std::wstring(row.field)));
+    const HWND field = FindControl(dialog, row.field);
+    ASSERT_NE(field, nullptr);
+    CopyToClipboard(L"north");
+    host_.WhileModal([] {
+      const HWND menu = ::FindWindowW(L"#32768", nullptr);
+      if (menu == nullptr || !::IsWindowVisible(menu)) return false;
+      PostKey(menu, VK_DOWN);
+      PostKey(menu, VK_RETURN);
+      return true;
+    });
+    ::PostMessageW(field, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(4, 4));
+    ::PostMessageW(field, WM_RBUTTONUP, 0, MAKELPARAM(4, 4));
+    const std::wstring before = WindowText(field);
+    host_.PumpUntil([&] { return WindowText(field) != before; }, row.pasted ? 5000 : 500);
+    EXPECT_EQ(WindowText(field).find(L"NORTH") != std::wstring::npos, row.pasted)
+        << testing::PrintToString(WindowText(field));
+  }
   DialogHost::Call(*object, L"Unload_From_Remote");
 }
 
