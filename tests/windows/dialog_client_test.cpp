@@ -262,6 +262,20 @@ TEST_F(DialogClient, ModalShowsRunTheirOwnLoopAndReturnTheCloseResult) {
   EXPECT_EQ(DialogHost::Call(*object, L"ShowForm"), 50000);
   EXPECT_TRUE(closed);
 
+  // The read-only show of an imported biller: no Cancel button, OK reads "Close".
+  bool cancel_shown = true;
+  host_.WhileModal([&] {
+    const HWND dialog = FindForm(kBillerCaption);
+    const HWND close = dialog != nullptr ? FindControl(dialog, L"Close") : nullptr;
+    if (close == nullptr) return false;
+    cancel_shown = FindControl(dialog, L"Cancel") != nullptr;
+    ::SendMessageW(close, BM_CLICK, 0, 0);
+    return true;
+  });
+  DialogHost::Call(*object, L"ShowForm_Import");
+  EXPECT_FALSE(cancel_shown);
+  EXPECT_EQ(FindForm(kBillerCaption), nullptr);
+
   // The foreign bank dialog opens modal over the embedded biller dialog, which is disabled while
   // it is up; cancelling it returns to the biller dialog.
   EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
