@@ -1,0 +1,51 @@
+#include "platform/win32/installed_library.h"
+
+namespace nvrandom {
+
+namespace {
+
+// The folder of the module this code is linked into, with a trailing separator.
+std::wstring OwnModuleFolder() {
+  HMODULE self = nullptr;
+  if (!::GetModuleHandleExW(
+          GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+          reinterpret_cast<LPCWSTR>(&OwnModuleFolder), &self)) {
+    return {};
+  }
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD n = ::GetModuleFileNameW(self, path.data(), static_cast<DWORD>(path.size()));
+    if (n == 0) return {};
+    if (n < path.size()) {
+      path.resize(n);
+      break;
+    }
+    path.resize(path.size() * 2);
+  }
+  const size_t end = path.find_last_of(L"\\/");
+  return end == std::wstring::npos ? std::wstring() : path.substr(0, end + 1);
+}
+
+// The library's own folder is searched for what it imports, as for a program started there.
+HMODULE LoadFrom(const std::wstring& folder, const std::wstring& name) {
+  if (folder.empty()) return nullptr;
+  std::wstring path = folder;
+  if (path.back() != L'\\' && path.back() != L'/') path += L'\\';
+  path += name;
+  if (::GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES) return nullptr;
+  return ::LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+}
+
+}  // namespace
+
+InstalledLibrary InstalledLibrary::Find(const std::wstring& name, const std::wstring& folder) {
+  // A missing library is an answer here, not an error for the user to dismiss.
+  const UINT previous = ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+  HMODULE module = LoadFrom(folder, name);
+  if (module == nullptr) module = LoadFrom(OwnModuleFolder(), name);
+  if (module == nullptr) module = ::LoadLibraryW(name.c_str());
+  ::SetErrorMode(previous);
+  return InstalledLibrary(module);
+}
+
+}  // namespace nvrandom
