@@ -47,7 +47,7 @@ windows: deps
 
 # Timings of the Windows build under Wine (not part of make test), in a prefix of their own: a
 # property read by name through IDispatch against the vtable, and CoCreateInstance up to the first
-# property set. Fails when a target is missed.
+# property set, each against its target.
 WINBENCH := build/mingw64-release
 bench-windows: deps
 	cmake --preset mingw64-release

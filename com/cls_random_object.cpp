@@ -269,8 +269,7 @@ class ClsRandomObject final : public _ClsRandom,
     return iid == IID__ClsRandom ? S_OK : S_FALSE;
   }
 
-  // IConnectionPointContainer
-  // The one outgoing interface's point.
+  // IConnectionPointContainer, with the one outgoing interface's point.
   STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints** out) override {
     if (out == nullptr) return E_POINTER;
     *out = nullptr;

@@ -19,13 +19,12 @@ using CheckBankAccount2Entry = int16_t(WINAPI*)(const char* bank_id, const char*
                                                 int32_t* message_length, int32_t flag);
 
 constexpr wchar_t kLibraryName[] = L"Acctvfy.dll";
-constexpr int32_t kEntryPointNotFound = 453;
 
 template <typename F>
 F RequiredExport(const InstalledLibrary& library, const char* decorated, const char* plain) {
   const F entry = library.Export<F>({decorated, plain});
   if (entry == nullptr) {
-    throw RuntimeError(kEntryPointNotFound,
+    throw RuntimeError(vb_error::kDllEntryPointNotFound,
                        std::string("Can't find DLL entry point ") + decorated + " in Acctvfy.dll");
   }
   return entry;

@@ -1,27 +1,15 @@
 #include "platform/win32/installed_library.h"
 
+#include "platform/win32/module_file.h"
+
 namespace nvrandom {
 
 namespace {
 
 // The folder of the module this code is linked into, with a trailing separator.
 std::wstring OwnModuleFolder() {
-  HMODULE self = nullptr;
-  if (!::GetModuleHandleExW(
-          GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-          reinterpret_cast<LPCWSTR>(&OwnModuleFolder), &self)) {
-    return {};
-  }
-  std::wstring path(MAX_PATH, L'\0');
-  for (;;) {
-    const DWORD n = ::GetModuleFileNameW(self, path.data(), static_cast<DWORD>(path.size()));
-    if (n == 0) return {};
-    if (n < path.size()) {
-      path.resize(n);
-      break;
-    }
-    path.resize(path.size() * 2);
-  }
+  const HMODULE self = ModuleHolding(reinterpret_cast<const void*>(&OwnModuleFolder));
+  const std::wstring path = self == nullptr ? std::wstring() : ModuleFileName(self);
   const size_t end = path.find_last_of(L"\\/");
   return end == std::wstring::npos ? std::wstring() : path.substr(0, end + 1);
 }

@@ -15,7 +15,9 @@
 #include <atomic>
 #include <string>
 
+#include "platform/win32/class_registry.h"
 #include "platform/win32/com_handles.h"
+#include "platform/win32/module_file.h"
 #include "platform/win32/wide_text.h"
 #include "verifier/bank_rules.h"
 
@@ -32,10 +34,7 @@ std::atomic<long> g_references{0};
 std::atomic<int> g_search_ids{0};
 
 std::wstring ModulePath() {
-  std::wstring path(MAX_PATH, L'\0');
-  const DWORD n = ::GetModuleFileNameW(g_module, path.data(), static_cast<DWORD>(path.size()));
-  path.resize(n < path.size() ? n : 0);
-  return path;
+  return nvrandom::ModuleFileName(g_module);
 }
 
 std::string Utf8(BSTR text) {
@@ -277,25 +276,11 @@ class ClassFactory final : public IClassFactory {
 
 ClassFactory g_factory;
 
-std::wstring GuidText(REFGUID guid) {
-  wchar_t text[40] = {};
-  ::StringFromGUID2(guid, text, 40);
-  return text;
-}
+using nvrandom::registry::GuidText;
 
 // An installer's registration: for the machine (where Wine's COM looks), else for the user.
 bool SetKey(HKEY root, const std::wstring& key, const wchar_t* name, const std::wstring& value) {
-  HKEY handle = nullptr;
-  const std::wstring full = L"Software\\Classes\\" + key;
-  if (::RegCreateKeyExW(root, full.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &handle,
-                        nullptr) != ERROR_SUCCESS) {
-    return false;
-  }
-  const LSTATUS status =
-      ::RegSetValueExW(handle, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
-                       static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
-  ::RegCloseKey(handle);
-  return status == ERROR_SUCCESS;
+  return nvrandom::registry::SetClassesValue(root, key, name, value);
 }
 
 bool Register(HKEY root) {
@@ -310,10 +295,8 @@ bool Register(HKEY root) {
 }
 
 void Unregister(HKEY root) {
-  for (const std::wstring& key :
-       {L"CLSID\\" + GuidText(CLSID_AccountVerifier), std::wstring(kProgId)}) {
-    ::RegDeleteTreeW(root, (L"Software\\Classes\\" + key).c_str());
-  }
+  nvrandom::registry::DeleteClassesKey(root, L"CLSID\\" + GuidText(CLSID_AccountVerifier));
+  nvrandom::registry::DeleteClassesKey(root, kProgId);
 }
 
 }  // namespace
