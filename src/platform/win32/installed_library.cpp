@@ -28,11 +28,13 @@ HMODULE LoadFrom(const std::wstring& folder, const std::wstring& name) {
 
 InstalledLibrary InstalledLibrary::Find(const std::wstring& name, const std::wstring& folder) {
   // A missing library is an answer here, not an error for the user to dismiss.
-  const UINT previous = ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+  DWORD previous = 0;
+  const bool quiet =
+      ::SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &previous) != 0;
   HMODULE module = LoadFrom(folder, name);
   if (module == nullptr) module = LoadFrom(OwnModuleFolder(), name);
   if (module == nullptr) module = ::LoadLibraryW(name.c_str());
-  ::SetErrorMode(previous);
+  if (quiet) ::SetThreadErrorMode(previous, nullptr);
   return InstalledLibrary(module);
 }
 
