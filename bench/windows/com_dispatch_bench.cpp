@@ -78,6 +78,16 @@ int main() {
       }
     }));
   }
+  // The same call for a class of the system's own, which has no work of its own to speak of: what
+  // COM itself costs here.
+  CLSID dictionary{};
+  if (SUCCEEDED(::CLSIDFromProgID(L"Scripting.Dictionary", &dictionary))) {
+    timings.push_back(Measure("reference: CoCreateInstance Scripting.Dictionary", 2000, 31, [&] {
+      ComPtr<IUnknown> object;
+      ::CoCreateInstance(dictionary, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
+                         object.put_void());
+    }));
+  }
   nvrandom::bench::PrintTable(timings);
 
   const double ratio = timings[1].median_ns / timings[0].median_ns;

@@ -11,6 +11,8 @@ shift 2
 run() { "$here/wine-run.sh" "$prefix" "$@"; }
 run regsvr32 /s "$dll"
 trap 'run regsvr32 /s /u "$dll"' EXIT
+# A run stopped by ctest's timeout unregisters too.
+trap 'exit 1' INT TERM
 set +e
 run "$@"
 status=$?
