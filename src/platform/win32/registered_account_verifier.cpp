@@ -26,10 +26,13 @@ RuntimeError ErrorOf(HRESULT hr, EXCEPINFO& info) {
   ::SysFreeString(info.bstrDescription);
   ::SysFreeString(info.bstrHelpFile);
   info = EXCEPINFO{};
-  const int32_t number =
-      HRESULT_FACILITY(hr) == FACILITY_CONTROL ? HRESULT_CODE(hr) : static_cast<int32_t>(hr);
-  if (description.empty()) description = DefaultErrorDescription(number);
-  if (description.empty()) description = "Automation error";
+  // A run-time error raised by the object keeps its number; any other failure is reported by its
+  // HRESULT, as an automation error.
+  const bool raised = HRESULT_FACILITY(hr) == FACILITY_CONTROL;
+  const int32_t number = raised ? HRESULT_CODE(hr) : static_cast<int32_t>(hr);
+  if (description.empty()) {
+    description = raised ? DefaultErrorDescription(number) : std::string("Automation error");
+  }
   return RuntimeError(number, description);
 }
 
