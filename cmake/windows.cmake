@@ -21,6 +21,28 @@ add_library(nlohmann_json::nlohmann_json ALIAS nlohmann_json_headers)
 # Wine's own folder, off the PATH.
 find_program(NVRANDOM_WIDL NAMES widl widl-stable PATHS /usr/lib/wine /usr/lib/x86_64-linux-gnu/wine
              REQUIRED)
+# Wine's IDL headers (libwine-dev) and its stdole2.tlb (libwine), for import and importlib.
+find_path(NVRANDOM_WINE_IDL_DIR oaidl.idl PATHS /usr/include/wine/wine/windows
+          /usr/include/wine/windows NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+find_path(NVRANDOM_STDOLE_DIR stdole2.tlb PATHS /usr/lib/x86_64-linux-gnu/wine/x86_64-windows
+          /usr/lib/wine/x86_64-windows NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+
+# nvrandom_widl(IDL TLB HEADER): compiles IDL into the type library TLB (for this build's pointer
+# size) and the C++ header HEADER.
+function(nvrandom_widl idl tlb header)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    set(widl_target -m64)
+  else()
+    set(widl_target -m32)
+  endif()
+  get_filename_component(idl_name ${idl} NAME)
+  add_custom_command(
+    OUTPUT ${tlb} ${header}
+    COMMAND ${NVRANDOM_WIDL} ${widl_target} -I${NVRANDOM_WINE_IDL_DIR} -L${NVRANDOM_STDOLE_DIR}
+            -t -o ${tlb} -h -H ${header} ${idl}
+    DEPENDS ${idl}
+    COMMENT "Compiling ${idl_name} with widl" VERBATIM)
+endfunction()
 
 # googletest built from Debian's source package (googletest) with this compiler: Debian ships
 # no mingw-w64 build of it.

@@ -8,12 +8,14 @@
 
 #include <atomic>
 #include <memory>
+#include <new>
 #include <vector>
 
 #include "api/cls_random.h"
 #include "com/com_error.h"
 #include "com/com_ids.h"
 #include "com/com_values.h"
+#include "com/snapshot_enumerator.h"
 #include "platform/win32/com_handles.h"
 
 namespace nvrandom::com {
@@ -72,8 +74,18 @@ class EventPoint final : public IConnectionPoint, public ClsRandomEvents {
     return S_OK;
   }
   STDMETHODIMP EnumConnections(IEnumConnections** out) override {
-    if (out != nullptr) *out = nullptr;
-    return E_NOTIMPL;
+    if (out == nullptr) return E_POINTER;
+    *out = nullptr;
+    return Guarded([&] {
+      auto connections = std::make_shared<std::vector<HeldConnection>>();
+      for (size_t slot = 0; slot < sinks_.size(); ++slot) {
+        if (!sinks_[slot]) continue;
+        ComPtr<IUnknown> sink(static_cast<IUnknown*>(sinks_[slot].get()));
+        connections->push_back(HeldConnection{std::move(sink), static_cast<DWORD>(slot + 1)});
+      }
+      const HRESULT hr = ConnectionEnumerator::Create(std::move(connections), 0, out);
+      if (FAILED(hr)) throw std::bad_alloc();
+    });
   }
 
   // ClsRandomEvents: the dialog's events, relayed to every sink in turn.
@@ -199,8 +211,10 @@ class ClsRandomObject final : public _ClsRandom,
     if (params == nullptr) return E_INVALIDARG;
     if (const HRESULT hr = CheckArguments(id, flags, *params); FAILED(hr)) return hr;
     ::SetErrorInfo(0, nullptr);
-    return type_info_->Invoke(static_cast<_ClsRandom*>(this), id, flags, params, result, error,
-                              arg_error);
+    const ComPtr<ITypeInfo> type_info = type_info_;
+    const KeepAlive keep(*this);
+    return type_info->Invoke(static_cast<_ClsRandom*>(this), id, flags, params, result, error,
+                             arg_error);
   }
 
   // _ClsRandom, generated from the member table.
@@ -231,10 +245,12 @@ class ClsRandomObject final : public _ClsRandom,
 #define NVRANDOM_COM_METHOD_Long(name)              \
   STDMETHODIMP name(long* result) override {        \
     if (result == nullptr) return E_POINTER;        \
+    const KeepAlive keep(*this);                    \
     return Guarded([&] { *result = cls_.name(); }); \
   }
 #define NVRANDOM_COM_METHOD_Void(name)    \
   STDMETHODIMP name() override {          \
+    const KeepAlive keep(*this);          \
     return Guarded([&] { cls_.name(); }); \
   }
 #define NVRANDOM_COM_METHOD(dispid, name, result) NVRANDOM_COM_METHOD_##result(name)
@@ -257,10 +273,16 @@ class ClsRandomObject final : public _ClsRandom,
     return iid == IID__ClsRandom ? S_OK : S_FALSE;
   }
 
-  // IConnectionPointContainer
+  // IConnectionPointContainer, with the one outgoing interface's point.
   STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints** out) override {
-    if (out != nullptr) *out = nullptr;
-    return E_NOTIMPL;
+    if (out == nullptr) return E_POINTER;
+    *out = nullptr;
+    return Guarded([&] {
+      auto points = std::make_shared<std::vector<ComPtr<IConnectionPoint>>>();
+      points->emplace_back(static_cast<IConnectionPoint*>(&events_));
+      const HRESULT hr = ConnectionPointEnumerator::Create(std::move(points), 0, out);
+      if (FAILED(hr)) throw std::bad_alloc();
+    });
   }
   STDMETHODIMP FindConnectionPoint(REFIID iid, IConnectionPoint** out) override {
     if (out == nullptr) return E_POINTER;
@@ -272,6 +294,19 @@ class ClsRandomObject final : public _ClsRandom,
   }
 
  private:
+  // A method that shows a dialog runs a message loop, in which the host may release its last
+  // reference: the object lives until the call has returned.
+  class KeepAlive {
+   public:
+    explicit KeepAlive(ClsRandomObject& object) : object_(object) { object_.AddRef(); }
+    ~KeepAlive() { object_.Release(); }
+    KeepAlive(const KeepAlive&) = delete;
+    KeepAlive& operator=(const KeepAlive&) = delete;
+
+   private:
+    ClsRandomObject& object_;
+  };
+
   std::atomic<ULONG> references_{1};
   ComPtr<ITypeInfo> type_info_;
   EventPoint events_;

@@ -17,8 +17,10 @@ void AddModuleReference();
 void ReleaseModuleReference();
 long ModuleReferences();
 
-// The type library embedded in this module (resource 1), loaded once.
+// The type library embedded in this module (resource 1), loaded once and kept until
+// ReleaseModuleTypeLib (DllCanUnloadNow calls it when nothing of the module is alive).
 HRESULT ModuleTypeLib(ITypeLib** out);
+void ReleaseModuleTypeLib();
 HRESULT ModuleTypeInfo(REFGUID guid, ITypeInfo** out);
 
 }  // namespace nvrandom::com

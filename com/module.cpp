@@ -8,36 +8,34 @@
 #include <olectl.h>
 
 #include <atomic>
+#include <mutex>
 #include <string>
 
 #include "com/cls_random_object.h"
 #include "com/com_error.h"
+#include "platform/win32/class_registry.h"
 #include "platform/win32/com_handles.h"
+#include "platform/win32/module_file.h"
+#include "win32_integration.h"
 
 namespace nvrandom::com {
 
 namespace {
 
+using registry::GuidText;
+
 HMODULE g_module = nullptr;
 std::atomic<long> g_references{0};
 
-std::wstring ModulePath() {
-  std::wstring path(MAX_PATH, L'\0');
-  for (;;) {
-    const DWORD n = ::GetModuleFileNameW(g_module, path.data(), static_cast<DWORD>(path.size()));
-    if (n == 0) return {};
-    if (n < path.size()) {
-      path.resize(n);
-      return path;
-    }
-    path.resize(path.size() * 2);
-  }
-}
+// The embedded type library, loaded by the first object and kept until the module may unload.
+struct TypeLibraryCache {
+  std::mutex mutex;
+  ComPtr<ITypeLib> library;
+};
+TypeLibraryCache g_type_library;
 
-std::wstring GuidText(REFGUID guid) {
-  wchar_t text[40] = {};
-  ::StringFromGUID2(guid, text, 40);
-  return text;
+std::wstring ModulePath() {
+  return ModuleFileName(g_module);
 }
 
 class ClassFactory final : public IClassFactory {
@@ -62,6 +60,11 @@ class ClassFactory final : public IClassFactory {
     return 1;
   }
   STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
+    // The Windows services and the Win32 view of this thread's dialogs, before its first object.
+    const HRESULT composed = Guarded([] {
+      win32::InstallWin32Composition({&AddModuleReference, &ReleaseModuleReference});
+    });
+    if (FAILED(composed)) return composed;
     return CreateClsRandomObject(outer, iid, out);
   }
   STDMETHODIMP LockServer(BOOL lock) override {
@@ -88,24 +91,13 @@ Function OleAutomationEntry(const char* name) {
 using RegisterForUser = HRESULT(WINAPI*)(ITypeLib*, OLECHAR*, OLECHAR*);
 using UnregisterForUser = HRESULT(WINAPI*)(REFGUID, WORD, WORD, LCID, SYSKIND);
 
-// HKCU\Software\Classes\<key>, default value `value` (and more named values).
+// Per user: no administrator rights needed.
 bool SetKey(const std::wstring& key, const wchar_t* name, const std::wstring& value) {
-  HKEY handle = nullptr;
-  const std::wstring full = L"Software\\Classes\\" + key;
-  if (::RegCreateKeyExW(HKEY_CURRENT_USER, full.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr,
-                        &handle, nullptr) != ERROR_SUCCESS) {
-    return false;
-  }
-  const LSTATUS status =
-      ::RegSetValueExW(handle, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
-                       static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
-  ::RegCloseKey(handle);
-  return status == ERROR_SUCCESS;
+  return registry::SetClassesValue(HKEY_CURRENT_USER, key, name, value);
 }
 
 void DeleteKey(const std::wstring& key) {
-  const std::wstring full = L"Software\\Classes\\" + key;
-  ::RegDeleteTreeW(HKEY_CURRENT_USER, full.c_str());
+  registry::DeleteClassesKey(HKEY_CURRENT_USER, key);
 }
 
 }  // namespace
@@ -121,14 +113,27 @@ long ModuleReferences() {
 }
 
 HRESULT ModuleTypeLib(ITypeLib** out) {
-  const std::wstring path = ModulePath();
-  return ::LoadTypeLibEx(path.c_str(), REGKIND_NONE, out);
+  if (out == nullptr) return E_POINTER;
+  *out = nullptr;
+  // Loading it costs a search for the file and a parse each time: every object would pay that.
+  std::lock_guard lock(g_type_library.mutex);
+  if (!g_type_library.library) {
+    const std::wstring path = ModulePath();
+    const HRESULT hr = ::LoadTypeLibEx(path.c_str(), REGKIND_NONE, g_type_library.library.put());
+    if (FAILED(hr)) return hr;
+  }
+  *out = ComPtr<ITypeLib>(g_type_library.library).detach();
+  return S_OK;
+}
+
+void ReleaseModuleTypeLib() {
+  std::lock_guard lock(g_type_library.mutex);
+  g_type_library.library.reset();
 }
 
 HRESULT ModuleTypeInfo(REFGUID guid, ITypeInfo** out) {
   if (out == nullptr) return E_POINTER;
   *out = nullptr;
-  // Loaded once per thread's first object: oleaut32 caches the library itself.
   ComPtr<ITypeLib> library;
   const HRESULT hr = ModuleTypeLib(library.put());
   if (FAILED(hr)) return hr;
@@ -141,11 +146,13 @@ using namespace nvrandom::com;
 
 extern "C" {
 
-BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
+BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved) {
   if (reason == DLL_PROCESS_ATTACH) {
     g_module = instance;
     ::DisableThreadLibraryCalls(instance);
   }
+  // Unloaded by FreeLibrary (not at process exit): the window classes go with the module.
+  if (reason == DLL_PROCESS_DETACH && reserved == nullptr) nvrandom::win32::ReleaseWin32Views();
   return TRUE;
 }
 
@@ -157,7 +164,9 @@ HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID clsid, REFIID iid, void** out)
 }
 
 HRESULT STDAPICALLTYPE DllCanUnloadNow() {
-  return ModuleReferences() == 0 ? S_OK : S_FALSE;
+  if (ModuleReferences() != 0) return S_FALSE;
+  ReleaseModuleTypeLib();
+  return S_OK;
 }
 
 HRESULT STDAPICALLTYPE DllRegisterServer() {

@@ -10,6 +10,7 @@
 namespace nvrandom::headless {
 
 using app::AddComponentServices;
+using app::AddInstalledComponents;
 
 int RecordingMessageBox::Show(std::string_view text, int style, std::string_view caption) {
   int answer = DefaultAnswer(style);
@@ -46,7 +47,8 @@ int RecordingFonts::AddFontResource(const std::string& font_file) {
   return calls.back().result;
 }
 
-HeadlessServices MakeHeadlessServices(const std::string& windows_dir, const std::string& now) {
+HeadlessServices MakeHeadlessServices(const std::string& windows_dir, const std::string& now,
+                                      OutsideComponents outside) {
   HeadlessServices h;
   auto box = std::make_unique<RecordingMessageBox>();
   auto shell = std::make_unique<RecordingShell>();
@@ -66,6 +68,7 @@ HeadlessServices MakeHeadlessServices(const std::string& windows_dir, const std:
   h.services.clipboard = std::make_unique<MemoryClipboard>();
   h.services.directories = std::make_unique<FixedDirectories>(windows_dir, "/usr/lib");
   h.services.regex = MakeSystemRegex();
+  if (outside == OutsideComponents::kInstalled) AddInstalledComponents(h.services);
   AddComponentServices(h.services);
   return h;
 }

@@ -101,8 +101,8 @@ class RecordingFonts final : public FontService {
 
 // The services of a run without windows (the scenario runner, tests, benchmarks, fuzzers):
 // scripted and recording boxes, shell, help and fonts, an in-memory clipboard, a fixed clock, the
-// given folders; the real regex engine, the component's own verifier and country-file decipher. The
-// returned pointers stay owned by the Services.
+// given folders; the real regex engine, the verifier, bank checks and country-file decipher chosen
+// by `outside`. The returned pointers stay owned by the Services.
 struct HeadlessServices {
   Services services;
   RecordingMessageBox* message_box = nullptr;
@@ -111,7 +111,14 @@ struct HeadlessServices {
   FixedClock* clock = nullptr;
   RecordingFonts* fonts = nullptr;
 };
+// Which account verifier, bank-check library and country-file decipher a headless run asks: the
+// component's own (tests and benchmarks, which must not depend on the machine), or those of the
+// host installation where the platform has them (the scenario runner, which plays the host).
+enum class OutsideComponents { kBuiltIn, kInstalled };
+// The time a headless run's clock shows unless told otherwise.
+inline constexpr const char* kFixedNow = "15/11/2026 1:58:04 PM";
 HeadlessServices MakeHeadlessServices(const std::string& windows_dir = "/tmp/nvrandom-windows",
-                                      const std::string& now = "15/11/2026 1:58:04 PM");
+                                      const std::string& now = kFixedNow,
+                                      OutsideComponents outside = OutsideComponents::kBuiltIn);
 
 }  // namespace nvrandom::headless

@@ -13,8 +13,14 @@ namespace nvrandom::app {
 
 // The services the component supplies itself whatever the platform: the built-in account
 // verifier, bank-check library and country-file decipher. Fills only the members that are still
-// empty (a Windows build puts the installed closed libraries there first).
+// empty (AddInstalledComponents puts the installation's own there first).
 void AddComponentServices(Services& services);
+
+// The host installation's own outside components where the platform has them: on Windows the
+// registered account verifier (ProgID NVVerifier.AccountVerifier), Acctvfy.dll and kvd8rq3x.dll,
+// each looked for at every use and answering through the built-in one while it is not installed.
+// Nothing elsewhere. Fills only the members that are still empty.
+void AddInstalledComponents(Services& services);
 
 // The platform's services plus the component's: POSIX, or in a Windows build the Win32 ones
 // (platform/win32, MakeWin32Services, which the Windows port provides).
@@ -22,7 +28,8 @@ Services MakePlatformServices();
 
 // What the default component state of a thread is built with. A view (Qt) or the COM server
 // installs its own factory at start-up, before the first class is created; the factory's result
-// is completed with AddComponentServices. An empty factory restores MakePlatformServices.
+// is completed with AddInstalledComponents and AddComponentServices. An empty factory restores
+// MakePlatformServices.
 using ServicesFactory = std::function<Services()>;
 void SetDefaultServicesFactory(ServicesFactory factory);
 Services MakeDefaultServices();

@@ -76,8 +76,17 @@ void Form::Show(bool modal) {
   if (!loaded_) return;  // Form_Load unloaded it
   if (modal && visible_) throw RuntimeError(400, "Form already displayed; can't show modally");
   modal_ = modal;
+  owner_.reset();
+  if (Form* front = app_.ActiveForm(); modal && front != nullptr && front != this) {
+    owner_ = front->weak_from_this();
+  }
   visible_ = true;
   app_.FormShown(*this, modal);
+}
+
+Form* Form::Owner() const {
+  const std::shared_ptr<Form> owner = owner_.lock();
+  return loaded_ && owner != nullptr && owner->IsLoaded() ? owner.get() : nullptr;
 }
 
 void Form::Hide() {
@@ -96,6 +105,12 @@ bool Form::Unload(int16_t mode) {
   Form_QueryUnload(cancel, mode);
   if (!loaded_) return true;  // the handler unloaded the form itself
   if (cancel != 0) return false;
+  // Owned windows go before their owner, as on the platform: a dialog shown over this one must
+  // not stay open, waiting on a form that no longer exists.
+  for (const auto& form : app_.LoadedForms()) {
+    if (form->Owner() == this && !form->Unload(mode)) return false;
+  }
+  if (!loaded_) return true;  // an owned form's handler unloaded this one
   unloading_ = true;
   Form_Unload(cancel);
   unloading_ = false;

@@ -73,11 +73,15 @@ class Form : public std::enable_shared_from_this<Form> {
   bool Visible() const { return visible_; }
   bool IsModal() const { return modal_; }
 
-  // Shows the form; modal: returns once it is unloaded or hidden.
+  // Shows the form; modal: returns once it is unloaded or hidden. A modal form is owned by the
+  // form that was front-most when it was shown, and closes with it.
   void Show(bool modal = false);
   void Hide();
-  // Unloads (QueryUnload, Form_Unload); false when a handler cancelled it.
+  // Unloads (QueryUnload, then the forms it owns, then Form_Unload); false when a handler
+  // cancelled it, its own or an owned form's.
   bool Unload(int16_t mode = unload_mode::kCode);
+  // The form this one was shown modally over, while both are loaded; nullptr otherwise.
+  Form* Owner() const;
 
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string caption);
@@ -150,6 +154,7 @@ class Form : public std::enable_shared_from_this<Form> {
   std::string font_name_;
   Control* active_control_ = nullptr;
   int64_t hwnd_ = 0;
+  std::weak_ptr<Form> owner_;
 };
 
 }  // namespace nvrandom::forms

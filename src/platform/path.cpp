@@ -153,14 +153,30 @@ std::string MakeTemporaryFolder(std::string_view prefix) {
 
 #endif
 
-std::optional<std::string> ReadFile(const std::string& file) {
+std::optional<std::string> ReadFile(const std::string& file, size_t max_size) {
 #ifdef _WIN32
   std::ifstream in(std::filesystem::path(Wide(file)), std::ios::binary);
 #else
   std::ifstream in(file, std::ios::binary);
 #endif
   if (!in) return std::nullopt;
-  std::string content((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  in.seekg(0, std::ios::end);
+  const std::streamoff size = in.tellg();
+  if (size >= 0) {
+    if (static_cast<unsigned long long>(size) > max_size) return std::nullopt;
+    std::string content(static_cast<size_t>(size), '\0');
+    in.seekg(0);
+    if (!in.read(content.data(), size)) return std::nullopt;
+    return content;
+  }
+  // A pipe or device has no size to ask: read it through, up to the limit.
+  in.clear();
+  std::string content;
+  char buffer[4096];
+  while (in.read(buffer, sizeof buffer) || in.gcount() > 0) {
+    content.append(buffer, static_cast<size_t>(in.gcount()));
+    if (content.size() > max_size) return std::nullopt;
+  }
   if (in.bad()) return std::nullopt;
   return content;
 }

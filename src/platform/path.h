@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,8 +31,9 @@ bool FileExists(const std::string& file);
 // copy failed.
 bool CopyFileReplacing(const std::string& from, const std::string& to);
 
-// The whole content of a file, byte for byte; nullopt when it cannot be read.
-std::optional<std::string> ReadFile(const std::string& file);
+// The whole content of a file, byte for byte; nullopt when it cannot be read or is larger than
+// `max_size` bytes (refused unread).
+std::optional<std::string> ReadFile(const std::string& file, size_t max_size = SIZE_MAX);
 
 // Writes `data` at the end of `file` (created when missing), or in its place when `truncate`;
 // false unless every byte was written. The file is open only for the call.

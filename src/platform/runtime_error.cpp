@@ -30,6 +30,8 @@ std::string DefaultErrorDescription(int32_t number) {
       return "Object doesn't support this property or method";
     case vb_error::kArgumentNotOptional:
       return "Argument not optional";
+    case vb_error::kDllEntryPointNotFound:
+      return "Specified DLL function not found";
     default:
       return "Application-defined or object-defined error";
   }

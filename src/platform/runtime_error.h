@@ -19,6 +19,7 @@ inline constexpr int32_t kPathNotFound = 76;
 inline constexpr int32_t kCannotCreateObject = 429;
 inline constexpr int32_t kObjectDoesNotSupport = 438;
 inline constexpr int32_t kArgumentNotOptional = 449;
+inline constexpr int32_t kDllEntryPointNotFound = 453;
 }  // namespace vb_error
 
 // The text the platform gives for its common run-time errors ("Subscript out of range").

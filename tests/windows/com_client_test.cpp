@@ -301,5 +301,68 @@ TEST_F(ComClient, ConnectionPointsTakeDispatchOnlySinksAndRefuseStaleCookies) {
   EXPECT_EQ(point->Advise(nullptr, &cookie), E_POINTER);
 }
 
+// Enumerators walk a snapshot: Next/Skip answer S_FALSE past the end, a clone keeps its place,
+// and every item handed out holds a reference for the caller.
+TEST_F(ComClient, ConnectionsAndPointsAreEnumeratedFromASnapshot) {
+  ComPtr<IDispatch> object = Create();
+  ASSERT_TRUE(object);
+  ComPtr<IConnectionPointContainer> container;
+  ASSERT_EQ(object.As(container), S_OK);
+  EXPECT_EQ(container->EnumConnectionPoints(nullptr), E_POINTER);
+  ComPtr<IEnumConnectionPoints> points;
+  ASSERT_EQ(container->EnumConnectionPoints(points.put()), S_OK);
+  IConnectionPoint* fetched_points[2] = {};
+  ULONG fetched = 9;
+  EXPECT_EQ(points->Next(2, fetched_points, &fetched), S_FALSE);
+  ASSERT_EQ(fetched, 1u);
+  ComPtr<IConnectionPoint> point;
+  ASSERT_EQ(container->FindConnectionPoint(kEvents, point.put()), S_OK);
+  EXPECT_EQ(fetched_points[0], point.get());
+  fetched_points[0]->Release();
+  EXPECT_EQ(points->Next(1, fetched_points, nullptr), S_FALSE);
+  EXPECT_EQ(points->Reset(), S_OK);
+  EXPECT_EQ(points->Skip(2), S_FALSE);
+
+  DispatchOnlySink first, second, third;
+  DWORD cookies[3] = {};
+  ASSERT_EQ(point->Advise(&first, &cookies[0]), S_OK);
+  ASSERT_EQ(point->Advise(&second, &cookies[1]), S_OK);
+  ASSERT_EQ(point->Advise(&third, &cookies[2]), S_OK);
+  ASSERT_EQ(point->Unadvise(cookies[1]), S_OK);
+  ComPtr<IEnumConnections> connections;
+  EXPECT_EQ(point->EnumConnections(nullptr), E_POINTER);
+  ASSERT_EQ(point->EnumConnections(connections.put()), S_OK);
+  // Unadvised after the snapshot: still enumerated, and kept alive by it.
+  ASSERT_EQ(point->Unadvise(cookies[2]), S_OK);
+  EXPECT_GT(third.references, 1u);
+
+  CONNECTDATA data[3] = {};
+  EXPECT_EQ(connections->Next(3, data, nullptr), E_INVALIDARG);
+  EXPECT_EQ(connections->Next(1, nullptr, &fetched), E_POINTER);
+  ASSERT_EQ(connections->Next(1, data, nullptr), S_OK);
+  EXPECT_EQ(data[0].dwCookie, cookies[0]);
+  data[0].pUnk->Release();
+  ComPtr<IEnumConnections> clone;
+  ASSERT_EQ(connections->Clone(clone.put()), S_OK);
+  ASSERT_EQ(connections->Next(3, data, &fetched), S_FALSE);
+  ASSERT_EQ(fetched, 1u);
+  EXPECT_EQ(data[0].dwCookie, cookies[2]);
+  EXPECT_EQ(data[0].pUnk, static_cast<IUnknown*>(&third));
+  data[0].pUnk->Release();
+  ASSERT_EQ(clone->Next(1, data, &fetched), S_OK);
+  EXPECT_EQ(data[0].dwCookie, cookies[2]);
+  data[0].pUnk->Release();
+  EXPECT_EQ(clone->Skip(1), S_FALSE);
+  EXPECT_EQ(clone->Reset(), S_OK);
+  EXPECT_EQ(clone->Skip(2), S_OK);
+  EXPECT_EQ(clone->Next(1, data, nullptr), S_FALSE);
+
+  connections.reset();
+  clone.reset();
+  EXPECT_EQ(third.references, 1u);
+  EXPECT_EQ(second.references, 1u);
+  EXPECT_EQ(point->Unadvise(cookies[0]), S_OK);
+}
+
 }  // namespace
 }  // namespace nvrandom::com

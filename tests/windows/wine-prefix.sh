@@ -1,7 +1,9 @@
 #!/bin/sh
 # Creates the Wine prefix the Windows tests run in, once (several tests may ask at the same time):
-# no desktop graphics (dialogs run without an X server), no Mono or Gecko installers.
-# Usage: wine-prefix.sh PREFIX
+# no desktop graphics (dialogs run without an X server), no Mono or Gecko installers. With "x11"
+# the prefix draws on the X display instead (for screenshots): windows neither managed nor
+# decorated by the window manager, so they look the same on any display.
+# Usage: wine-prefix.sh PREFIX [x11]
 set -e
 prefix=$(realpath -m "$1")
 [ -f "$prefix/.nvrandom-ready" ] && exit 0
@@ -17,7 +19,13 @@ if [ -z "$wine" ]; then
 fi
 start=$(date +%s)
 wineboot -i >/dev/null 2>&1
-wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null 2>&1
+if [ "$2" = "x11" ]; then
+  for value in Managed Decorated; do
+    wine reg add 'HKCU\Software\Wine\X11 Driver' /v $value /d N /f >/dev/null 2>&1
+  done
+else
+  wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null 2>&1
+fi
 wineserver -w
 touch "$prefix/.nvrandom-ready"
 echo "wine-prefix.sh: prefix $prefix ready in $(($(date +%s) - start)) s" >&2

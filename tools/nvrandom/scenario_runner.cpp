@@ -45,7 +45,8 @@ ScenarioRun::ScenarioRun(std::string file, std::vector<std::string> lines,
       tree_(tree),
       options_(options),
       out_(out),
-      services_(headless::MakeHeadlessServices(tree.root() + "Windows")) {
+      services_(headless::MakeHeadlessServices(tree.root() + "Windows", headless::kFixedNow,
+                                               headless::OutsideComponents::kInstalled)) {
   services_.message_box->on_show = [this](const headless::ShownBox& box) {
     Transcript("msgbox " + Quote(box.text) + " caption " + Quote(box.caption) + " icon " +
                IconName(box.style) + " buttons " + ButtonsName(box.style) + " answer " +

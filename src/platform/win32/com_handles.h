@@ -73,6 +73,8 @@ class Bstr {
     return &b_;
   }
   BSTR detach() { return std::exchange(b_, nullptr); }
+  // For an in/out argument: the callee may free the text and put another in its place.
+  BSTR* inout() { return &b_; }
   std::wstring_view view() const { return {b_ == nullptr ? L"" : b_, ::SysStringLen(b_)}; }
 
  private:

@@ -1,0 +1,378 @@
+// A host of NVRandom.dll's real dialogs: events through connection points while the person's keys
+// and clicks reach the dialog's windows, embedding by SetParent, releasing the object with the
+// dialog open, and modal shows with their own message loop (a nested dialog too).
+#include "dialog_host.h"
+// After windows.h (dialog_host.h).
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "screenshot.h"
+
+namespace nvrandom::com::test {
+namespace {
+
+constexpr const wchar_t* kBillerCaption = L"Norvik - Biller / Funds Transfer Information";
+constexpr const wchar_t* kBankCaption = L"International Payment Banking Information";
+constexpr const wchar_t* kChequeCaption = L"Sample Cheque";
+
+HWND DialogOf(IDispatch& object) {
+  return reinterpret_cast<HWND>(static_cast<INT_PTR>(DialogHost::Call(object, L"Get_hWnd")));
+}
+
+int Pixels(long twips) {
+  return ::MulDiv(static_cast<int>(twips), SystemDpi(), 1440);
+}
+
+class DialogClient : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(apartment_.usable());
+    ASSERT_TRUE(host_.loaded());
+  }
+  void TearDown() override { EXPECT_TRUE(host_.message_boxes().empty()); }
+
+  ApartmentScope apartment_;
+  DialogHost host_;
+};
+
+TEST_F(DialogClient, EmbeddedDialogRaisesItsEventsThroughConnectionPoints) {
+  ComPtr<IDispatch> object = host_.Create("business");
+  ASSERT_TRUE(object);
+  RecordingSink sink;
+  ASSERT_NE(DialogHost::Advise(*object, sink), 0u);
+
+  // Shown: the first field takes the focus and reports where it stands.
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  ASSERT_TRUE(::IsWindowVisible(dialog));
+  ASSERT_TRUE(host_.PumpUntil([&] { return !sink.tops.empty(); }));
+  EXPECT_EQ(sink.events, "2");
+  const HWND street = ::GetFocus();
+  ASSERT_NE(street, nullptr);
+  EXPECT_EQ(WindowText(street), L"100 KING ST W");
+
+  // Tab goes through the runtime's tab order to the next field, which reports a lower top.
+  PostKey(street, VK_TAB);
+  ASSERT_TRUE(host_.PumpUntil([&] { return sink.tops.size() == 2; }));
+  EXPECT_GT(sink.tops[1], sink.tops[0]);
+  const HWND city = ::GetFocus();
+  EXPECT_EQ(WindowText(city), L"TORONTO");
+
+  // What the field shows is the model's text: the city's rules upper-case a typed letter.
+  PostKey(city, VK_END);
+  PostKey(city, 'X');
+  ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(city) == L"TORONTOX"; }));
+  PostKey(city, VK_BACK);
+  ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(city) == L"TORONTO"; }));
+
+  // The cancel button and the close box each give one Cancel and close the window.
+  ::SendMessageW(FindControl(dialog, L"Cancel"), BM_CLICK, 0, 0);
+  ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindow(dialog); }));
+  EXPECT_EQ(sink.events, "223") << testing::PrintToString(sink.tops);
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND again = DialogOf(*object);
+  ::PostMessageW(again, WM_CLOSE, 0, 0);
+  ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindow(again); }));
+  EXPECT_EQ(sink.events.substr(sink.events.size() - 1), "3");
+
+  // OK on a valid biller: CSBOK, and the dialog goes.
+  sink.events.clear();
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND valid = DialogOf(*object);
+  ::SendMessageW(FindControl(valid, L"OK"), BM_CLICK, 0, 0);
+  ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindow(valid); }))
+      << sink.events << " focus: " << testing::PrintToString(WindowText(::GetFocus()));
+  EXPECT_NE(sink.events.find('1'), std::string::npos) << sink.events;
+  EXPECT_EQ(sink.events.find('3'), std::string::npos) << sink.events;
+}
+
+std::wstring Heading(HWND list, int column) {
+  wchar_t text[64] = {};
+  LVCOLUMNW info{};
+  info.mask = LVCF_TEXT;
+  info.pszText = text;
+  info.cchTextMax = 64;
+  ::SendMessageW(list, LVM_GETCOLUMNW, static_cast<WPARAM>(column),
+                 reinterpret_cast<LPARAM>(&info));
+  return text;
+}
+
+TEST_F(DialogClient, DataListsDropDownATableUnderTheirColumnHeadings) {
+  ComPtr<IDispatch> object = host_.Create("business");
+  ASSERT_TRUE(object);
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  const HWND country = FindControl(dialog, L"CA");
+  ASSERT_NE(country, nullptr);
+  ::SendMessageW(country, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+  const HWND popup = ::FindWindowW(L"NVRandomDropDown", nullptr);
+  ASSERT_TRUE(popup != nullptr && ::IsWindowVisible(popup));
+  const HWND table = ::GetWindow(popup, GW_CHILD);
+  EXPECT_EQ(Heading(table, 0), L"Country");
+  EXPECT_EQ(Heading(table, 1), L"Code");
+  EXPECT_EQ(Heading(table, 2), L"Phone");
+  EXPECT_GT(::SendMessageW(table, LVM_GETITEMCOUNT, 0, 0), 200);
+
+  // Enter on a row chooses it: the box shows the row's code, the model's choice.
+  LVFINDINFOW find{};
+  find.flags = LVFI_STRING;
+  find.psz = L"United States";
+  const auto row = static_cast<int>(::SendMessageW(table, LVM_FINDITEMW, static_cast<WPARAM>(-1),
+                                                   reinterpret_cast<LPARAM>(&find)));
+  ASSERT_GE(row, 0);
+  LVITEMW state{};
+  state.stateMask = state.state = LVIS_SELECTED | LVIS_FOCUSED;
+  ::SendMessageW(table, LVM_SETITEMSTATE, static_cast<WPARAM>(row),
+                 reinterpret_cast<LPARAM>(&state));
+  PostKey(table, VK_RETURN);
+  ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindowVisible(popup); }));
+  EXPECT_EQ(WindowText(country), L"US");
+  DialogHost::Call(*object, L"Unload_From_Remote");
+}
+
+// Puts `text` on the clipboard, as another program would.
+void CopyToClipboard(const std::wstring& text) {
+  ASSERT_TRUE(::OpenClipboard(nullptr));
+  ::EmptyClipboard();
+  const size_t bytes = (text.size() + 1) * sizeof(wchar_t);
+  const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes);
+  std::memcpy(::GlobalLock(memory), text.c_str(), bytes);
+  ::GlobalUnlock(memory);
+  ::SetClipboardData(CF_UNICODETEXT, memory);
+  ::CloseClipboard();
+}
+
+// The right button's menu on a text field: its Paste goes through the dialog's rules.
+TEST_F(DialogClient, ContextMenuPasteGoesThroughTheFieldsRules) {
+  ComPtr<IDispatch> object = host_.Create("business");
+  ASSERT_TRUE(object);
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  struct Row {
+    const wchar_t* field;  // its text, which finds it
+    bool pasted;
+  };
+  for (const Row& row : {Row{L"TORONTO", true}, Row{L"billing@example.com", false}}) {
+    SCOPED_TRACE(testing::PrintToString(std::wstring(row.field)));
+    const HWND field = FindControl(dialog, row.field);
+    ASSERT_NE(field, nullptr);
+    CopyToClipboard(L"north");
+    host_.WhileModal([] {
+      const HWND menu = ::FindWindowW(L"#32768", nullptr);
+      if (menu == nullptr || !::IsWindowVisible(menu)) return false;
+      PostKey(menu, VK_DOWN);
+      PostKey(menu, VK_RETURN);
+      return true;
+    });
+    ::PostMessageW(field, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(4, 4));
+    ::PostMessageW(field, WM_RBUTTONUP, 0, MAKELPARAM(4, 4));
+    const std::wstring before = WindowText(field);
+    host_.PumpUntil([&] { return WindowText(field) != before; }, row.pasted ? 5000 : 500);
+    EXPECT_EQ(WindowText(field).find(L"NORTH") != std::wstring::npos, row.pasted)
+        << testing::PrintToString(WindowText(field));
+  }
+  DialogHost::Call(*object, L"Unload_From_Remote");
+}
+
+TEST_F(DialogClient, HostEmbedsTheDialogWithSetParentAtItsDesignedSize) {
+  ComPtr<IDispatch> object = host_.Create("business");
+  ASSERT_TRUE(object);
+  const HWND container = ::CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW, 0, 0, 900,
+                                           700, nullptr, nullptr, nullptr, nullptr);
+  ASSERT_NE(container, nullptr);
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  ::SetParent(dialog, container);
+  host_.PumpUntil([] { return false; }, 100);
+  EXPECT_NE(::GetWindowLongPtrW(dialog, GWL_STYLE) & WS_CHILD, 0);
+  EXPECT_EQ(::GetWindowLongPtrW(dialog, GWL_STYLE) & WS_CAPTION, 0);
+  RECT client{};
+  ::GetClientRect(dialog, &client);
+  EXPECT_EQ(client.right, Pixels(DialogHost::Call(*object, L"Get_Width")));
+  EXPECT_EQ(client.bottom, Pixels(DialogHost::Call(*object, L"Get_Height")));
+  RECT placed{};
+  ::GetWindowRect(dialog, &placed);
+  ::MapWindowPoints(nullptr, container, reinterpret_cast<POINT*>(&placed), 2);
+  EXPECT_EQ(placed.left, 0);
+  EXPECT_EQ(placed.top, 0);
+  // Given back to the desktop, it is a window of its own again, of the same client size.
+  ::SetParent(dialog, nullptr);
+  EXPECT_EQ(::GetWindowLongPtrW(dialog, GWL_STYLE) & WS_CHILD, 0);
+  EXPECT_NE(::GetWindowLongPtrW(dialog, GWL_STYLE) & WS_CAPTION, 0);
+  RECT own{};
+  ::GetClientRect(dialog, &own);
+  EXPECT_EQ(own.right, client.right);
+  EXPECT_EQ(own.bottom, client.bottom);
+  // Closing from the host's side leaves no window behind.
+  EXPECT_EQ(DialogHost::Call(*object, L"Unload_From_Remote"), 0);
+  EXPECT_FALSE(::IsWindow(dialog));
+  ::DestroyWindow(container);
+}
+
+TEST_F(DialogClient, ReleasingTheObjectLeavesTheOpenDialogAndKeepsTheServerUntilItCloses) {
+  ComPtr<IDispatch> object = host_.Create("business");
+  ASSERT_TRUE(object);
+  RecordingSink sink;
+  ASSERT_NE(DialogHost::Advise(*object, sink), 0u);
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  object.reset();
+  // The sink was released with the object; the window (whose procedure is in the server) is
+  // still there, so the server may not be unloaded.
+  EXPECT_EQ(sink.references, 1u);
+  EXPECT_TRUE(::IsWindow(dialog));
+  EXPECT_EQ(host_.CanUnloadNow(), S_FALSE);
+  // The person can still use it; closing it raises nothing to nobody and frees the server.
+  PostKey(::GetFocus(), VK_TAB);
+  ::PostMessageW(dialog, WM_CLOSE, 0, 0);
+  ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindow(dialog); }));
+  EXPECT_EQ(host_.CanUnloadNow(), S_OK);
+  EXPECT_EQ(sink.events, "2");
+}
+
+TEST_F(DialogClient, ReleasingTheObjectDuringAModalShowEndsItCleanlyWhenTheDialogCloses) {
+  ComPtr<IDispatch> object = host_.Create("business");
+  ASSERT_TRUE(object);
+  IDispatch* const calling = object.get();
+  host_.WhileModal([&] {
+    const HWND dialog = FindForm(kBillerCaption);
+    if (dialog == nullptr) return false;
+    object.reset();  // the host's last reference, while ShowForm is still running
+    ::PostMessageW(dialog, WM_CLOSE, 0, 0);
+    return true;
+  });
+  EXPECT_EQ(DialogHost::Call(*calling, L"ShowForm"), 50000);
+  EXPECT_FALSE(object);
+  EXPECT_EQ(host_.CanUnloadNow(), S_OK);  // the object went once the call had returned
+}
+
+TEST_F(DialogClient, ModalShowsRunTheirOwnLoopAndReturnTheCloseResult) {
+  ComPtr<IDispatch> object = host_.Create("international");
+  ASSERT_TRUE(object);
+  // The close box of the modal dialog, clicked while ShowForm waits.
+  bool closed = false;
+  host_.WhileModal([&] {
+    const HWND dialog = FindForm(kBillerCaption);
+    if (dialog == nullptr || !::IsWindowEnabled(dialog)) return false;
+    closed = ::PostMessageW(dialog, WM_CLOSE, 0, 0) != 0;
+    return true;
+  });
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm"), 50000);
+  EXPECT_TRUE(closed);
+
+  // The read-only show of an imported biller: no Cancel button, OK reads "Close".
+  bool cancel_shown = true;
+  host_.WhileModal([&] {
+    const HWND dialog = FindForm(kBillerCaption);
+    const HWND close = dialog != nullptr ? FindControl(dialog, L"Close") : nullptr;
+    if (close == nullptr) return false;
+    cancel_shown = FindControl(dialog, L"Cancel") != nullptr;
+    ::SendMessageW(close, BM_CLICK, 0, 0);
+    return true;
+  });
+  DialogHost::Call(*object, L"ShowForm_Import");
+  EXPECT_FALSE(cancel_shown);
+  EXPECT_EQ(FindForm(kBillerCaption), nullptr);
+
+  // The foreign bank dialog opens modal over the embedded biller dialog, which is disabled while
+  // it is up; cancelling it returns to the biller dialog.
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND biller = DialogOf(*object);
+  bool owner_disabled = false;
+  host_.WhileModal([&] {
+    const HWND bank = FindForm(kBankCaption);
+    if (bank == nullptr) return false;
+    owner_disabled = !::IsWindowEnabled(biller);
+    ::SendMessageW(FindControl(bank, L"Cancel"), BM_CLICK, 0, 0);
+    return true;
+  });
+  ::SendMessageW(FindControl(biller, L"Enter Banking Information"), BM_CLICK, 0, 0);
+  EXPECT_TRUE(owner_disabled);
+  EXPECT_EQ(FindForm(kBankCaption), nullptr);
+  EXPECT_TRUE(::IsWindowEnabled(biller));
+  DialogHost::Call(*object, L"Unload_From_Remote");
+  EXPECT_FALSE(::IsWindow(biller));
+}
+
+// Under a display (--screenshots DIR): each layout of the biller dialog, the foreign bank
+// dialog and the sample cheque, drawn, of their designed size, written as BMP files.
+class Screenshots : public DialogClient {
+ protected:
+  void Save(const Capture& shot, const std::wstring& name) {
+    ExpectDrawn(shot);
+    EXPECT_TRUE(WriteBmp(shot, g_screenshots + L"\\" + name + L".bmp"));
+  }
+  // Clicks `button` of `dialog`, which opens the modal dialog `caption`; captures and closes it.
+  void SaveModal(HWND dialog, const wchar_t* button, const wchar_t* caption,
+                 const std::wstring& name) {
+    Capture shot;
+    host_.WhileModal([&] {
+      const HWND window = FindForm(caption);
+      if (window == nullptr) return false;
+      shot = CaptureClient(window, host_);
+      ::PostMessageW(window, WM_CLOSE, 0, 0);
+      return true;
+    });
+    ::SendMessageW(FindControl(dialog, button), BM_CLICK, 0, 0);
+    Save(shot, name);
+  }
+};
+
+TEST_F(Screenshots, EachDialogAndLayoutIsDrawnAtItsDesignedSize) {
+  ASSERT_FALSE(g_screenshots.empty()) << "run with --screenshots DIR";
+  for (const std::string layout : {"business", "individual", "us", "international"}) {
+    SCOPED_TRACE(layout);
+    ComPtr<IDispatch> object = host_.Create(layout);
+    ASSERT_TRUE(object);
+    EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+    const HWND dialog = DialogOf(*object);
+    const Capture shot = CaptureClient(dialog, host_);
+    EXPECT_EQ(shot.width, Pixels(DialogHost::Call(*object, L"Get_Width")));
+    EXPECT_EQ(shot.height, Pixels(DialogHost::Call(*object, L"Get_Height")));
+    Save(shot, L"biller-" + std::wstring(layout.begin(), layout.end()));
+    EXPECT_EQ(Background(shot), ToRgb(::GetSysColor(COLOR_BTNFACE)));  // the default style
+    if (layout == "individual") {
+      SaveModal(dialog, L"View Sample Cheque", kChequeCaption, L"sample-cheque");
+    }
+    if (layout == "international") {
+      SaveModal(dialog, L"Enter Banking Information", kBankCaption, L"foreign-bank");
+    }
+    DialogHost::Call(*object, L"Unload_From_Remote");
+  }
+}
+
+// The form style the host chose is what the person sees: white, with flat styled buttons.
+TEST_F(Screenshots, TheRestyledDialogsShowTheHostsStyle) {
+  ASSERT_FALSE(g_screenshots.empty()) << "run with --screenshots DIR";
+  ComPtr<IDispatch> object = host_.Create("international");
+  ASSERT_TRUE(object);
+  DialogHost::Let(*object, {L"FormStyle", short{2}});
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  const Capture shot = CaptureClient(dialog, host_);
+  EXPECT_EQ(Background(shot), 0xFFFFFFu);
+  Save(shot, L"biller-international-white");
+  SaveModal(dialog, L"Enter Banking Information", kBankCaption, L"foreign-bank-white");
+  DialogHost::Call(*object, L"Unload_From_Remote");
+  DialogHost::Let(*object, {L"FormStyle", short{0}});
+}
+
+}  // namespace
+}  // namespace nvrandom::com::test
+
+// Arguments: --install DIR (the installation folder, a Windows path), [--screenshots DIR].
+int main(int argc, char** argv) {
+  ::testing::InitGoogleTest(&argc, argv);
+  using nvrandom::com::test::g_install;
+  using nvrandom::com::test::g_screenshots;
+  for (int i = 1; i + 1 < argc; ++i) {
+    const std::string option = argv[i];
+    std::wstring value;
+    for (const char* c = argv[i + 1]; *c != '\0'; ++c) value += *c == '/' ? L'\\' : wchar_t(*c);
+    if (option == "--install") g_install = value + L"\\";
+    if (option == "--screenshots") g_screenshots = value;
+  }
+  return RUN_ALL_TESTS();
+}

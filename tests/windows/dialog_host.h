@@ -1,0 +1,100 @@
+#pragma once
+
+// A host of NVRandom.dll's dialogs for the tests: the server loaded as COM loads it, objects
+// driven through IDispatch by name, a recording event sink, and a message pump with a time limit
+// in which the person's input is posted to the dialog's windows.
+#include <windows.h>
+// windows.h first: the OLE headers use its types.
+#include <ocidl.h>
+#include <olectl.h>
+
+#include <functional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/win32/com_handles.h"
+
+namespace nvrandom::com::test {
+
+// One property a host sets: a text, a number, or a list of texts.
+struct HostValue {
+  const wchar_t* name;
+  std::variant<const wchar_t*, short, std::vector<const wchar_t*>> value;
+};
+
+// The sample billers of the four layouts, as a host sets them (after the installation values).
+const std::vector<HostValue>& InstallationValues();
+const std::vector<HostValue>& SampleBiller(std::string_view layout);
+
+// Events as the sink saw them: their DISPIDs in order ("1" CSBOK, "2" CurrentFieldTop, "3" Cancel,
+// "4" ViewSampleCheque) and each CurrentFieldTop's Top.
+class RecordingSink final : public IDispatch {
+ public:
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override;
+  STDMETHODIMP_(ULONG) AddRef() override { return ++references; }
+  STDMETHODIMP_(ULONG) Release() override { return --references; }
+  STDMETHODIMP GetTypeInfoCount(UINT* count) override;
+  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+  STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* params, VARIANT*, EXCEPINFO*,
+                      UINT*) override;
+
+  ULONG references = 1;
+  std::string events;
+  std::vector<short> tops;
+};
+
+class DialogHost {
+ public:
+  // Loads the server from the program's folder; `install` is the installation folder (DLLPath).
+  DialogHost();
+  ~DialogHost();
+  DialogHost(const DialogHost&) = delete;
+  DialogHost& operator=(const DialogHost&) = delete;
+
+  bool loaded() const { return get_class_object_ != nullptr && can_unload_now_ != nullptr; }
+  HRESULT CanUnloadNow() const { return can_unload_now_(); }
+
+  // A new object with the installation values and the sample biller of `layout` set.
+  ComPtr<IDispatch> Create(std::string_view layout);
+  static HRESULT Let(IDispatch& object, const HostValue& value);
+  // Calls a method without arguments; its Long result, or the failed HRESULT as -1.
+  static long Call(IDispatch& object, const wchar_t* method);
+  // Advises `sink` on the object's event connection point; the cookie (0 on failure).
+  static DWORD Advise(IDispatch& object, RecordingSink& sink);
+
+  // Runs this thread's messages until `done` holds or `milliseconds` pass; false on time-out.
+  // Message boxes that open meanwhile are answered with their default button and recorded.
+  bool PumpUntil(const std::function<bool()>& done, DWORD milliseconds = 5000);
+  // While a modal loop of the server runs (inside a call): `action` is tried every few
+  // milliseconds from a timer until it returns true. After 10 s the thread's dialogs are closed
+  // and the failure is recorded with the message boxes.
+  void WhileModal(std::function<bool()> action);
+
+  // The texts of the message boxes answered so far (and of modal actions that gave up).
+  const std::vector<std::wstring>& message_boxes() const;
+
+ private:
+  HMODULE module_ = nullptr;
+  HRESULT(WINAPI* get_class_object_)(REFCLSID, REFIID, void**) = nullptr;
+  HRESULT(WINAPI* can_unload_now_)() = nullptr;
+  UINT_PTR timer_ = 0;
+};
+
+// The installation folder the tests give DLLPath (set from the command line by main).
+extern std::wstring g_install;
+// Where screenshots go (empty: no screenshots are taken).
+extern std::wstring g_screenshots;
+
+// A shown control of the dialog, found as a person finds it: by its caption as it reads (access
+// key marks left out).
+HWND FindControl(HWND form, const wchar_t* caption);
+// A shown top-level form window of this thread with that caption (nullptr when none).
+HWND FindForm(const wchar_t* caption);
+// Posts a key's press and release to `target`, as the keyboard would: the message loop's
+// TranslateMessage makes the character the key types.
+void PostKey(HWND target, WPARAM virtual_key);
+std::wstring WindowText(HWND hwnd);
+
+}  // namespace nvrandom::com::test

@@ -1,0 +1,335 @@
+// An account verifier for the tests of the Windows build: an in-process COM server registering the
+// class AccountVerifier (ProgID NVVerifier.AccountVerifier) with the dual interface the component
+// drives. It decides by the built-in verifier's published institution rules, answers in its own
+// words with the session's search id as a reference, hands out a new search id for every valid
+// bank id, and raises an error when its data folder (DataPath) does not exist, as a verifier
+// that reads its rule files from there would.
+#include <windows.h>
+// Defines the type library's GUIDs in this one file.
+#include <initguid.h>
+// After initguid.h.
+#include "NVVerifier_h.h"
+
+#include <olectl.h>
+
+#include <atomic>
+#include <string>
+
+#include "platform/win32/class_registry.h"
+#include "platform/win32/com_handles.h"
+#include "platform/win32/module_file.h"
+#include "platform/win32/wide_text.h"
+#include "verifier/bank_rules.h"
+
+namespace {
+
+namespace rules = nvrandom::verifier;
+using nvrandom::com::ComPtr;
+
+constexpr const wchar_t* kProgId = L"NVVerifier.AccountVerifier";
+constexpr int kPathNotFound = 76;
+
+HMODULE g_module = nullptr;
+std::atomic<long> g_references{0};
+std::atomic<int> g_search_ids{0};
+
+std::wstring ModulePath() {
+  return nvrandom::ModuleFileName(g_module);
+}
+
+std::string Utf8(BSTR text) {
+  return nvrandom::wide::ToUtf8({text == nullptr ? L"" : text, ::SysStringLen(text)});
+}
+
+HRESULT SetText(BSTR* out, const std::string& text) {
+  if (out == nullptr) return E_POINTER;
+  const std::wstring wide = nvrandom::wide::FromUtf8(text);
+  ::SysFreeString(*out);
+  *out = ::SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
+  return *out == nullptr ? E_OUTOFMEMORY : S_OK;
+}
+
+// A run-time error of the verifier, as a script's Err.Raise reports it.
+HRESULT RaiseError(int number, const std::string& description) {
+  ComPtr<ICreateErrorInfo> create;
+  if (SUCCEEDED(::CreateErrorInfo(create.put()))) {
+    const std::wstring text = nvrandom::wide::FromUtf8(description);
+    create->SetDescription(const_cast<LPOLESTR>(text.c_str()));
+    create->SetSource(const_cast<LPOLESTR>(kProgId));
+    create->SetGUID(IID__AccountVerifier);
+    ComPtr<IErrorInfo> info;
+    if (SUCCEEDED(create.As(info))) ::SetErrorInfo(0, info.get());
+  }
+  return MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number);
+}
+
+std::string_view FirstOf(std::string_view text, short length) {
+  return length > 0 ? text.substr(0, static_cast<size_t>(length)) : text;
+}
+
+class AccountVerifierObject final : public _AccountVerifier, public ISupportErrorInfo {
+ public:
+  AccountVerifierObject() { ++g_references; }
+  ~AccountVerifierObject() { --g_references; }
+  AccountVerifierObject(const AccountVerifierObject&) = delete;
+  AccountVerifierObject& operator=(const AccountVerifierObject&) = delete;
+
+  HRESULT Init() {
+    ComPtr<ITypeLib> library;
+    const HRESULT hr = ::LoadTypeLibEx(ModulePath().c_str(), REGKIND_NONE, library.put());
+    return FAILED(hr) ? hr : library->GetTypeInfoOfGuid(IID__AccountVerifier, type_info_.put());
+  }
+
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    if (out == nullptr) return E_POINTER;
+    if (iid == IID_IUnknown || iid == IID_IDispatch || iid == IID__AccountVerifier) {
+      *out = static_cast<_AccountVerifier*>(this);
+    } else if (iid == IID_ISupportErrorInfo) {
+      *out = static_cast<ISupportErrorInfo*>(this);
+    } else {
+      *out = nullptr;
+      return E_NOINTERFACE;
+    }
+    AddRef();
+    return S_OK;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
+  STDMETHODIMP_(ULONG) Release() override {
+    const ULONG left = --references_;
+    if (left == 0) delete this;
+    return left;
+  }
+
+  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
+    if (count == nullptr) return E_POINTER;
+    *count = 1;
+    return S_OK;
+  }
+  STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** out) override {
+    if (out == nullptr) return E_POINTER;
+    *out = nullptr;
+    if (index != 0) return DISP_E_BADINDEX;
+    *out = ComPtr<ITypeInfo>(type_info_).detach();
+    return S_OK;
+  }
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+    return ::DispGetIDsOfNames(type_info_.get(), names, count, ids);
+  }
+  STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
+                      EXCEPINFO* error, UINT* arg_error) override {
+    ::SetErrorInfo(0, nullptr);
+    return type_info_->Invoke(static_cast<_AccountVerifier*>(this), id, flags, params, result,
+                              error, arg_error);
+  }
+
+  STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override {
+    return iid == IID__AccountVerifier ? S_OK : S_FALSE;
+  }
+
+  // The session's values.
+  STDMETHODIMP put_PlayByPlay(VARIANT_BOOL) override { return S_OK; }
+  STDMETHODIMP put_BusinessPIN(BSTR value) override { return Keep(business_pin_, value); }
+  STDMETHODIMP get_BillerSearchID(BSTR* value) override {
+    if (value == nullptr) return E_POINTER;
+    *value = nullptr;
+    return SetText(value, search_id_);
+  }
+  STDMETHODIMP put_BillerSearchID(BSTR value) override { return Keep(search_id_, value); }
+  STDMETHODIMP put_AccessNumber(BSTR value) override { return Keep(access_number_, value); }
+  STDMETHODIMP put_ProgramVersion(BSTR value) override { return Keep(program_version_, value); }
+  STDMETHODIMP put_BillerSearchURL(BSTR value) override { return Keep(search_url_, value); }
+  STDMETHODIMP put_SessionNumber(BSTR value) override { return Keep(session_number_, value); }
+  STDMETHODIMP put_DataPath(BSTR value) override { return Keep(data_path_, value); }
+  STDMETHODIMP put_RequestSourceCode(BSTR value) override { return Keep(request_source_, value); }
+  STDMETHODIMP put_BankIdLength(short value) override {
+    bank_id_length_ = value;
+    return S_OK;
+  }
+  STDMETHODIMP put_AccountLength(short value) override {
+    account_length_ = value;
+    return S_OK;
+  }
+
+  // The questions.
+  STDMETHODIMP VerifyAccount(BSTR bank_id, BSTR account, VARIANT_BOOL, BSTR* error_message,
+                             short* second_result, short* result) override {
+    if (error_message == nullptr || second_result == nullptr || result == nullptr) return E_POINTER;
+    if (const HRESULT hr = CheckDataPath(); FAILED(hr)) return hr;
+    const std::string id = Utf8(bank_id);
+    const std::string acct = Utf8(account);
+    const rules::BankIdReading reading = rules::ReadBankId(FirstOf(id, bank_id_length_));
+    *second_result = static_cast<short>(reading.number.empty() ? 0 : std::stoi(reading.number));
+    const rules::CheckOutcome outcome =
+        rules::CheckAccount(FirstOf(id, bank_id_length_), FirstOf(acct, account_length_));
+    *result = outcome.result;
+    return SetText(error_message, Refusal(outcome));
+  }
+  STDMETHODIMP ValidateBankId(BSTR bank_id, VARIANT_BOOL, BSTR* error_message, short* error_length,
+                              short* result) override {
+    if (error_message == nullptr || error_length == nullptr || result == nullptr) return E_POINTER;
+    if (const HRESULT hr = CheckDataPath(); FAILED(hr)) return hr;
+    const std::string id = Utf8(bank_id);
+    const rules::BankIdReading reading = rules::ReadBankId(id);
+    std::string message;
+    if (reading.institution != nullptr) {
+      *result = rules::check_result::kValid;
+      HandOutSearchId(reading.number);
+    } else {
+      *result = rules::check_result::kRefused;
+      message = reading.number.empty() ? "Bank id " + id + " is not an institution number."
+                                       : "Bank id " + reading.number +
+                                             " is not on the verifier's list of institutions.";
+      message += Reference();
+    }
+    *error_length = static_cast<short>(message.size());
+    return SetText(error_message, message);
+  }
+  STDMETHODIMP ValidateBankAccount(BSTR bank_id, BSTR transit, BSTR account, BSTR* error_message,
+                                   short* error_length, VARIANT_BOOL, short* result) override {
+    if (error_message == nullptr || error_length == nullptr || result == nullptr) return E_POINTER;
+    if (const HRESULT hr = CheckDataPath(); FAILED(hr)) return hr;
+    const rules::CheckOutcome outcome =
+        rules::CheckBankAccount(Utf8(bank_id), Utf8(transit), Utf8(account));
+    *result = outcome.result;
+    if (outcome.result == rules::check_result::kValid) {
+      HandOutSearchId(rules::ReadBankId(Utf8(bank_id)).number);
+    }
+    const std::string message = Refusal(outcome);
+    *error_length = static_cast<short>(message.size());
+    return SetText(error_message, message);
+  }
+
+ private:
+  static HRESULT Keep(std::string& slot, BSTR value) {
+    slot = Utf8(value);
+    return S_OK;
+  }
+  HRESULT CheckDataPath() const {
+    const DWORD attributes = ::GetFileAttributesW(nvrandom::wide::FromUtf8(data_path_).c_str());
+    if (data_path_.empty() || attributes == INVALID_FILE_ATTRIBUTES ||
+        (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+      return RaiseError(kPathNotFound,
+                        "The verifier's data folder \"" + data_path_ + "\" was not found.");
+    }
+    return S_OK;
+  }
+  void HandOutSearchId(const std::string& institution) {
+    search_id_ = "NV" + institution + "-" + std::to_string(++g_search_ids);
+  }
+  std::string Reference() const {
+    return search_id_.empty() ? std::string() : " (reference " + search_id_ + ")";
+  }
+  std::string Refusal(const rules::CheckOutcome& outcome) const {
+    if (outcome.result != rules::check_result::kRefused) return {};
+    return "The verifier refused the account: " + outcome.message + Reference();
+  }
+
+  std::atomic<ULONG> references_{1};
+  ComPtr<ITypeInfo> type_info_;
+  std::string business_pin_, search_id_, access_number_, program_version_, search_url_,
+      session_number_, data_path_, request_source_;
+  short bank_id_length_ = 0;
+  short account_length_ = 0;
+};
+
+class ClassFactory final : public IClassFactory {
+ public:
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    if (out == nullptr) return E_POINTER;
+    if (iid == IID_IUnknown || iid == IID_IClassFactory) {
+      *out = static_cast<IClassFactory*>(this);
+      AddRef();
+      return S_OK;
+    }
+    *out = nullptr;
+    return E_NOINTERFACE;
+  }
+  // Static: its references keep the module loaded.
+  STDMETHODIMP_(ULONG) AddRef() override {
+    ++g_references;
+    return 2;
+  }
+  STDMETHODIMP_(ULONG) Release() override {
+    --g_references;
+    return 1;
+  }
+  STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
+    if (out == nullptr) return E_POINTER;
+    *out = nullptr;
+    if (outer != nullptr) return CLASS_E_NOAGGREGATION;
+    auto* object = new (std::nothrow) AccountVerifierObject();
+    if (object == nullptr) return E_OUTOFMEMORY;
+    HRESULT hr = object->Init();
+    if (SUCCEEDED(hr)) hr = object->QueryInterface(iid, out);
+    object->Release();
+    return hr;
+  }
+  STDMETHODIMP LockServer(BOOL lock) override {
+    if (lock) {
+      ++g_references;
+    } else {
+      --g_references;
+    }
+    return S_OK;
+  }
+};
+
+ClassFactory g_factory;
+
+using nvrandom::registry::GuidText;
+
+// An installer's registration: for the machine (where Wine's COM looks), else for the user.
+bool SetKey(HKEY root, const std::wstring& key, const wchar_t* name, const std::wstring& value) {
+  return nvrandom::registry::SetClassesValue(root, key, name, value);
+}
+
+bool Register(HKEY root) {
+  const std::wstring clsid = GuidText(CLSID_AccountVerifier);
+  const std::wstring key = L"CLSID\\" + clsid;
+  return SetKey(root, key, nullptr, L"AccountVerifier") &&
+         SetKey(root, key + L"\\InprocServer32", nullptr, ModulePath()) &&
+         SetKey(root, key + L"\\InprocServer32", L"ThreadingModel", L"Apartment") &&
+         SetKey(root, key + L"\\ProgID", nullptr, kProgId) &&
+         SetKey(root, kProgId, nullptr, L"AccountVerifier") &&
+         SetKey(root, std::wstring(kProgId) + L"\\CLSID", nullptr, clsid);
+}
+
+void Unregister(HKEY root) {
+  nvrandom::registry::DeleteClassesKey(root, L"CLSID\\" + GuidText(CLSID_AccountVerifier));
+  nvrandom::registry::DeleteClassesKey(root, kProgId);
+}
+
+}  // namespace
+
+extern "C" {
+
+BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
+  if (reason == DLL_PROCESS_ATTACH) {
+    g_module = instance;
+    ::DisableThreadLibraryCalls(instance);
+  }
+  return TRUE;
+}
+
+HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID clsid, REFIID iid, void** out) {
+  if (out == nullptr) return E_POINTER;
+  *out = nullptr;
+  if (clsid != CLSID_AccountVerifier) return CLASS_E_CLASSNOTAVAILABLE;
+  return g_factory.QueryInterface(iid, out);
+}
+
+HRESULT STDAPICALLTYPE DllCanUnloadNow() {
+  return g_references == 0 ? S_OK : S_FALSE;
+}
+
+HRESULT STDAPICALLTYPE DllRegisterServer() {
+  return Register(HKEY_LOCAL_MACHINE) || Register(HKEY_CURRENT_USER) ? S_OK : SELFREG_E_CLASS;
+}
+
+HRESULT STDAPICALLTYPE DllUnregisterServer() {
+  Unregister(HKEY_LOCAL_MACHINE);
+  Unregister(HKEY_CURRENT_USER);
+  return S_OK;
+}
+
+}  // extern "C"
