@@ -62,9 +62,8 @@ bool Keystroke(Control& control, char32_t character);
 
 // One physical key that types no character of its own: KeyDown, then unless discarded the key's
 // editing action (Delete, arrows, Home, End, Shift+Insert paste, Shift+Tab to the previous tab
-// stop; Control+C, Control+V and
-// Control+X go on as the KeyPress of their control character), then KeyUp. False when
-// discarded.
+// stop; Control+C, Control+V and Control+X go on as the KeyPress of their control character),
+// then KeyUp. False when discarded.
 bool PhysicalKey(Control& control, int16_t key_code, int16_t shift);
 
 }  // namespace nvrandom::forms

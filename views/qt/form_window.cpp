@@ -397,7 +397,6 @@ bool FormWindow::Key(ControlRecord& r, QKeyEvent* event) {
     if (event->key() == Qt::Key_Tab || ch != forms::keys::kTab) forms::user::Key(c, ch);
     return true;
   }
-
   const QString text = event->text();
   if (!command && !text.isEmpty() && text[0].isPrint()) {
     forms::user::Type(c, ToUtf8(text));
