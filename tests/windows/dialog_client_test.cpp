@@ -67,10 +67,22 @@ TEST_F(DialogClient, EmbeddedDialogRaisesItsEventsThroughConnectionPoints) {
   PostKey(city, VK_BACK);
   ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(city) == L"TORONTO"; }));
 
+  // Shift+Tab goes back in tab order, to the street, which reports its top again.
+  BYTE keys[256] = {};
+  ::GetKeyboardState(keys);
+  keys[VK_SHIFT] = 0x80;
+  ::SetKeyboardState(keys);
+  PostKey(city, VK_TAB);
+  const bool back = host_.PumpUntil([&] { return ::GetFocus() == street; });
+  keys[VK_SHIFT] = 0;
+  ::SetKeyboardState(keys);
+  ASSERT_TRUE(back);
+  EXPECT_EQ(sink.tops.back(), sink.tops[0]);
+
   // The cancel button and the close box each give one Cancel and close the window.
   ::SendMessageW(FindControl(dialog, L"Cancel"), BM_CLICK, 0, 0);
   ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindow(dialog); }));
-  EXPECT_EQ(sink.events, "223") << testing::PrintToString(sink.tops);
+  EXPECT_EQ(sink.events, "2223") << testing::PrintToString(sink.tops);
   EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
   const HWND again = DialogOf(*object);
   ::PostMessageW(again, WM_CLOSE, 0, 0);
@@ -86,6 +98,44 @@ TEST_F(DialogClient, EmbeddedDialogRaisesItsEventsThroughConnectionPoints) {
       << sink.events << " focus: " << testing::PrintToString(WindowText(::GetFocus()));
   EXPECT_NE(sink.events.find('1'), std::string::npos) << sink.events;
   EXPECT_EQ(sink.events.find('3'), std::string::npos) << sink.events;
+}
+
+// What Windows delivers for a double click: press, release, double click, release.
+void PostDoubleClick(HWND target) {
+  const LPARAM at = MAKELPARAM(4, 4);
+  for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
+    ::PostMessageW(target, message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, at);
+  }
+}
+
+// A double click is one click and a DblClick: a text box's edit field selects a word (which the
+// next key replaces), and an option button whose Click moves the focus on is clicked only once.
+TEST_F(DialogClient, ADoubleClickClicksOnce) {
+  ComPtr<IDispatch> object = host_.Create("business");
+  ASSERT_TRUE(object);
+  RecordingSink sink;
+  ASSERT_NE(DialogHost::Advise(*object, sink), 0u);
+  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  const HWND dialog = DialogOf(*object);
+  const auto handled = [] { return HIWORD(::GetQueueStatus(QS_POSTMESSAGE)) == 0; };
+
+  const HWND city = FindControl(dialog, L"TORONTO");
+  ASSERT_NE(city, nullptr);
+  PostDoubleClick(city);
+  PostKey(city, 'X');
+  ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(city) == L"X"; }))
+      << testing::PrintToString(WindowText(city));
+
+  const HWND individual = FindControl(dialog, L"Individual");
+  ASSERT_NE(individual, nullptr);
+  ASSERT_TRUE(host_.PumpUntil(handled));
+  const size_t reported = sink.tops.size();
+  PostDoubleClick(individual);
+  ASSERT_TRUE(host_.PumpUntil(handled));
+  // The option took the focus and its Click moved it on to the phone: two reports, not four.
+  EXPECT_EQ(sink.tops.size(), reported + 2) << testing::PrintToString(sink.tops);
+  EXPECT_NE(::GetFocus(), individual);
+  DialogHost::Call(*object, L"Unload_From_Remote");
 }
 
 std::wstring Heading(HWND list, int column) {

@@ -17,7 +17,8 @@ struct ControlRecord {
   HWND hwnd = nullptr;                // placed in its container (the form or a frame)
   HWND input = nullptr;               // takes the keys: hwnd, or a combo box's edit field
   FormWindow* window = nullptr;
-  wchar_t high_surrogate = 0;  // the first half of a character typed as two WM_CHARs
+  wchar_t high_surrogate = 0;   // the first half of a character typed as two WM_CHARs
+  bool double_clicked = false;  // the left button's release ends a double click, not a click
 };
 
 inline bool IsListKind(forms::ControlKind kind) {

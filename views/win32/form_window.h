@@ -84,6 +84,7 @@ class FormWindow {
   LRESULT FormMessage(UINT message, WPARAM wparam, LPARAM lparam);
   LRESULT Key(ControlRecord& record, HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
   LRESULT Mouse(ControlRecord& record, HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
+  void Clicks(ControlRecord& record, HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
   void ContextMenu(ControlRecord& record, HWND hwnd, LPARAM lparam);
   void SyncSelection(ControlRecord& record);
   void FocusIn(ControlRecord& record);

@@ -4,6 +4,8 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <utility>
+
 #include "control_record.h"
 #include "data_list_popup.h"
 #include "forms/application.h"
@@ -79,6 +81,22 @@ bool IsPress(UINT message) {
          message == WM_LBUTTONDBLCLK || message == WM_RBUTTONDBLCLK || message == WM_MBUTTONDBLCLK;
 }
 
+// A mouse message as MouseDown and MouseUp are told of it: positions in twips from the corner.
+struct MouseArgs {
+  int16_t button;
+  int16_t shift;
+  float x;
+  float y;
+};
+
+MouseArgs MouseArgsOf(UINT message, WPARAM wparam, LPARAM lparam, int dpi) {
+  int16_t shift = 0;
+  if ((wparam & MK_SHIFT) != 0) shift |= forms::keys::kShiftMask;
+  if ((wparam & MK_CONTROL) != 0) shift |= forms::keys::kCtrlMask;
+  return {ButtonOf(message), shift, static_cast<float>(PixelsToTwips(GET_X_LPARAM(lparam), dpi)),
+          static_cast<float>(PixelsToTwips(GET_Y_LPARAM(lparam), dpi))};
+}
+
 }  // namespace
 
 LRESULT FormWindow::ControlMessage(ControlRecord& r, HWND hwnd, UINT message, WPARAM wparam,
@@ -151,8 +169,12 @@ LRESULT FormWindow::Key(ControlRecord& r, HWND hwnd, UINT message, WPARAM wparam
       forms::user::Key(c, static_cast<int16_t>(ch));
       return 0;
     case forms::keys::kTab:
-      // Tab goes on in tab order; Shift+Tab is not a key of the runtime.
-      if (!KeyIsDown(VK_SHIFT)) forms::user::Key(c, forms::keys::kTab);
+      // Tab goes on in tab order; Shift+Tab, which types no character, goes back.
+      if (KeyIsDown(VK_SHIFT)) {
+        forms::user::KeyDown(c, forms::keys::kKeyTab, forms::keys::kShiftMask);
+      } else {
+        forms::user::Key(c, forms::keys::kTab);
+      }
       return 0;
     default:
       break;
@@ -174,12 +196,7 @@ LRESULT FormWindow::Mouse(ControlRecord& r, HWND hwnd, UINT message, WPARAM wpar
   if (form_ == nullptr) return 0;
   Win32View::InputScope scope(view_);
   Control& c = *r.control;
-  const int16_t button = ButtonOf(message);
-  int16_t shift = 0;
-  if ((wparam & MK_SHIFT) != 0) shift |= forms::keys::kShiftMask;
-  if ((wparam & MK_CONTROL) != 0) shift |= forms::keys::kCtrlMask;
-  const auto x = static_cast<float>(PixelsToTwips(GET_X_LPARAM(lparam), dpi_));
-  const auto y = static_cast<float>(PixelsToTwips(GET_Y_LPARAM(lparam), dpi_));
+  const auto [button, shift, x, y] = MouseArgsOf(message, wparam, lparam, dpi_);
   const bool press = IsPress(message);
 
   if (forms::IsTextKind(c.kind()) && hwnd == r.input) {
@@ -187,13 +204,22 @@ LRESULT FormWindow::Mouse(ControlRecord& r, HWND hwnd, UINT message, WPARAM wpar
       if (!press) ContextMenu(r, hwnd, lparam);
       return 0;
     }
-    // The edit field places the caret and selects; the model hears the buttons, then the
-    // selection the person made.
-    if (press) forms::user::MouseDown(c, button, shift, x, y);
+    // The edit field places the caret and selects; the model hears the buttons, and a text box
+    // its clicks (a list's Click is the choice of a row), then the selection the person made.
+    const bool text_box = c.kind() == ControlKind::kTextBox;
+    if (text_box && press) {
+      Clicks(r, hwnd, message, wparam, lparam);
+    } else if (message == WM_LBUTTONDOWN || message == WM_MBUTTONDOWN) {
+      forms::user::MouseDown(c, button, shift, x, y);
+    }
     if (form_ == nullptr) return 0;
     const LRESULT result = ::DefSubclassProc(hwnd, message, wparam, lparam);
     if (form_ == nullptr) return result;
-    if (!press) forms::user::MouseUp(c, button, shift, x, y);
+    if (text_box && !press) {
+      Clicks(r, hwnd, message, wparam, lparam);
+    } else if (!press) {
+      forms::user::MouseUp(c, button, shift, x, y);
+    }
     if (form_ != nullptr && r.control != nullptr) SyncSelection(r);
     return result;
   }
@@ -210,22 +236,41 @@ LRESULT FormWindow::Mouse(ControlRecord& r, HWND hwnd, UINT message, WPARAM wpar
     return ::DefSubclassProc(hwnd, message, wparam, lparam);
   }
   // Buttons, check boxes, option buttons, labels, images, links and frames: the model decides
-  // what a click does (a check box's tick follows its Value). A double click is a second press.
-  if (press) {
-    if (c.CanFocus() && button == forms::keys::kLeftButton) forms::user::Focus(c);
-    if (form_ != nullptr) forms::user::MouseDown(c, button, shift, x, y);
-    if (button == forms::keys::kLeftButton) ::SetCapture(hwnd);
-    return 0;
+  // what a click does (a check box's tick follows its Value).
+  if (message == WM_LBUTTONDOWN && c.CanFocus()) forms::user::Focus(c);
+  if (form_ != nullptr) Clicks(r, hwnd, message, wparam, lparam);
+  if (press && button == forms::keys::kLeftButton) {
+    ::SetCapture(hwnd);
+  } else if (!press && ::GetCapture() == hwnd) {
+    ::ReleaseCapture();
   }
-  if (::GetCapture() == hwnd) ::ReleaseCapture();
+  return 0;
+}
+
+// Windows reports a double click as press, release, double click, release: the first release is
+// the Click, the double click is the second press (DblClick, or a second Click where the control
+// has none), and the release that ends it clicks nothing more.
+void FormWindow::Clicks(ControlRecord& r, HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
+  Control& c = *r.control;
+  const auto [button, shift, x, y] = MouseArgsOf(message, wparam, lparam, dpi_);
+  if (message == WM_LBUTTONDBLCLK) {
+    r.double_clicked = true;
+    forms::user::DoubleClick(c);
+    return;
+  }
+  if (IsPress(message)) {
+    forms::user::MouseDown(c, button, shift, x, y);
+    return;
+  }
+  const bool left = button == forms::keys::kLeftButton;
+  const bool ends_double_click = left && std::exchange(r.double_clicked, false);
   forms::user::MouseUp(c, button, shift, x, y);
   RECT client;
   ::GetClientRect(hwnd, &client);
   const POINT at{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
-  if (form_ != nullptr && button == forms::keys::kLeftButton && ::PtInRect(&client, at)) {
+  if (form_ != nullptr && left && !ends_double_click && ::PtInRect(&client, at)) {
     forms::user::Click(c);
   }
-  return 0;
 }
 
 // The right button's menu on a text field: Paste goes through the model.
