@@ -33,18 +33,27 @@ class DialogClient : public ::testing::Test {
   }
   void TearDown() override { EXPECT_TRUE(host_.message_boxes().empty()); }
 
+  // The business sample shown modeless, its events going to `sink` if given; null (a failure
+  // recorded) if it could not be.
+  ComPtr<IDispatch> ShowBusiness(RecordingSink* sink = nullptr) {
+    ComPtr<IDispatch> object = host_.Create("business");
+    if (!object || (sink != nullptr && DialogHost::Advise(*object, *sink) == 0) ||
+        DialogHost::Call(*object, L"ShowForm_Remote") != 0) {
+      ADD_FAILURE() << "the business sample was not shown";
+      return nullptr;
+    }
+    return object;
+  }
+
   ApartmentScope apartment_;
   DialogHost host_;
 };
 
 TEST_F(DialogClient, EmbeddedDialogRaisesItsEventsThroughConnectionPoints) {
-  ComPtr<IDispatch> object = host_.Create("business");
-  ASSERT_TRUE(object);
-  RecordingSink sink;
-  ASSERT_NE(DialogHost::Advise(*object, sink), 0u);
-
   // Shown: the first field takes the focus and reports where it stands.
-  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  RecordingSink sink;
+  ComPtr<IDispatch> object = ShowBusiness(&sink);
+  ASSERT_TRUE(object);
   const HWND dialog = DialogOf(*object);
   ASSERT_TRUE(::IsWindowVisible(dialog));
   ASSERT_TRUE(host_.PumpUntil([&] { return !sink.tops.empty(); }));
@@ -111,11 +120,9 @@ void PostDoubleClick(HWND target) {
 // A double click is one click and a DblClick: a text box's edit field selects a word (which the
 // next key replaces), and an option button whose Click moves the focus on is clicked only once.
 TEST_F(DialogClient, ADoubleClickClicksOnce) {
-  ComPtr<IDispatch> object = host_.Create("business");
-  ASSERT_TRUE(object);
   RecordingSink sink;
-  ASSERT_NE(DialogHost::Advise(*object, sink), 0u);
-  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  ComPtr<IDispatch> object = ShowBusiness(&sink);
+  ASSERT_TRUE(object);
   const HWND dialog = DialogOf(*object);
   const auto handled = [] { return HIWORD(::GetQueueStatus(QS_POSTMESSAGE)) == 0; };
 
@@ -150,9 +157,8 @@ std::wstring Heading(HWND list, int column) {
 }
 
 TEST_F(DialogClient, DataListsDropDownATableUnderTheirColumnHeadings) {
-  ComPtr<IDispatch> object = host_.Create("business");
+  ComPtr<IDispatch> object = ShowBusiness();
   ASSERT_TRUE(object);
-  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
   const HWND dialog = DialogOf(*object);
   const HWND country = FindControl(dialog, L"CA");
   ASSERT_NE(country, nullptr);
@@ -196,9 +202,8 @@ void CopyToClipboard(const std::wstring& text) {
 
 // The right button's menu on a text field: its Paste goes through the dialog's rules.
 TEST_F(DialogClient, ContextMenuPasteGoesThroughTheFieldsRules) {
-  ComPtr<IDispatch> object = host_.Create("business");
+  ComPtr<IDispatch> object = ShowBusiness();
   ASSERT_TRUE(object);
-  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
   const HWND dialog = DialogOf(*object);
   struct Row {
     const wchar_t* field;  // its text, which finds it
@@ -262,11 +267,9 @@ TEST_F(DialogClient, HostEmbedsTheDialogWithSetParentAtItsDesignedSize) {
 }
 
 TEST_F(DialogClient, ReleasingTheObjectLeavesTheOpenDialogAndKeepsTheServerUntilItCloses) {
-  ComPtr<IDispatch> object = host_.Create("business");
-  ASSERT_TRUE(object);
   RecordingSink sink;
-  ASSERT_NE(DialogHost::Advise(*object, sink), 0u);
-  EXPECT_EQ(DialogHost::Call(*object, L"ShowForm_Remote"), 0);
+  ComPtr<IDispatch> object = ShowBusiness(&sink);
+  ASSERT_TRUE(object);
   const HWND dialog = DialogOf(*object);
   object.reset();
   // The sink was released with the object; the window (whose procedure is in the server) is
