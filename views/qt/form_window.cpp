@@ -18,6 +18,7 @@
 #include "forms/user_input.h"
 #include "platform/clipboard.h"
 #include "qt_units.h"
+#include "widget_looks.h"
 
 namespace nvrandom::qt {
 
@@ -30,15 +31,16 @@ namespace {
 // The dialogs' fonts are designed at this size.
 constexpr double kPointSize = 8.0;
 
-// The properties every record shows, in the order a fresh widget takes them.
+// The properties every record shows, in the order a fresh widget takes them (BackColor shows
+// both colours).
 constexpr Property kAllProperties[] = {
-    Property::kFontName,      Property::kBackColor,    Property::kForeColor,
-    Property::kBackStyle,     Property::kCaption,      Property::kButtonStyle,
-    Property::kMaxLength,     Property::kLocked,       Property::kColumnHeadings,
-    Property::kDisplayColumn, Property::kBoundColumn,  Property::kList,
-    Property::kListIndex,     Property::kPasswordChar, Property::kText,
-    Property::kSelection,     Property::kValue,        Property::kLeft,
-    Property::kEnabled,       Property::kVisible,
+    Property::kFontName,     Property::kBackColor,      Property::kBackStyle,
+    Property::kCaption,      Property::kButtonStyle,    Property::kMaxLength,
+    Property::kLocked,       Property::kColumnHeadings, Property::kDisplayColumn,
+    Property::kBoundColumn,  Property::kList,           Property::kListIndex,
+    Property::kPasswordChar, Property::kText,           Property::kSelection,
+    Property::kValue,        Property::kLeft,           Property::kEnabled,
+    Property::kVisible,
 };
 
 int16_t ShiftState(Qt::KeyboardModifiers modifiers) {
@@ -141,6 +143,10 @@ FormWindow::FormWindow(forms::Form& form, double logical_dpi, QWidget* parent)
     by_control_.emplace(record->control, record.get());
     records_.push_back(std::move(record));
   }
+  // The window's colours and font before its widgets: each widget inherits them as it is made,
+  // with no change passed down to it afterwards.
+  ShowForm(Property::kBackColor);
+  ShowForm(Property::kFontName);
   for (auto& record : records_) CreateWidget(*record);
   for (auto& record : records_) {
     ControlRecord* r = record.get();
@@ -177,15 +183,17 @@ void FormWindow::FollowSelection(ControlRecord& record) {
   });
 }
 
+// The form's colours and font first, and each container's before its contents': a control whose
+// colours or font are its container's shows them by inheriting them.
 void FormWindow::Wake() {
   if (awake_ || form_ == nullptr) return;
-  awake_ = true;
-  for (auto& record : records_) ApplyAll(*record);
-  NameInputs();
   for (const Property p :
        {Property::kCaption, Property::kWidth, Property::kBackColor, Property::kFontName}) {
-    FormChanged(p);
+    ShowForm(p);
   }
+  for (ControlRecord* record : tree_order_) ApplyAll(*record);
+  NameInputs();
+  awake_ = true;
 }
 
 FormWindow::~FormWindow() = default;
@@ -213,6 +221,7 @@ void FormWindow::CreateWidget(ControlRecord& record) {
   }
   by_widget_.emplace(record.widget, &record);
   by_widget_.emplace(record.input, &record);
+  tree_order_.push_back(&record);
 }
 
 // A screen reader reads an input by its label: the label in the same container on the input's
@@ -282,7 +291,11 @@ void FormWindow::Update(ControlRecord& r, Property p) {
       r.widget->setVisible(c.Visible());
       break;
     case Property::kEnabled:
+      if (r.widget->testAttribute(Qt::WA_ForceDisabled) != c.Enabled()) break;
       r.widget->setEnabled(c.Enabled());
+      // Disabled, it and the controls inside it are drawn in their disabled colours.
+      ShowColours(*r.widget, c);
+      if (awake_) KeepOwnLooks(*r.widget, Property::kBackColor);
       break;
     case Property::kLeft:
     case Property::kTop:
@@ -292,33 +305,14 @@ void FormWindow::Update(ControlRecord& r, Property p) {
                             TwipsToPixels(c.Width(), dpi_), TwipsToPixels(c.Height(), dpi_));
       break;
     case Property::kBackColor:
-    case Property::kForeColor: {
-      QPalette palette = r.widget->palette();
-      const bool text_kind = forms::IsTextKind(c.kind());
-      const QColor back = ToQColor(c.BackColor(), QApplication::palette());
-      const QColor fore = ToQColor(c.ForeColor(), QApplication::palette());
-      palette.setColor(text_kind ? QPalette::Base : QPalette::Window, back);
-      if (!text_kind) palette.setColor(QPalette::Button, back);
-      palette.setColor(text_kind ? QPalette::Text : QPalette::WindowText, fore);
-      palette.setColor(QPalette::ButtonText, fore);
-      // Set once the colours differ: a palette set again, even the same, is passed down to
-      // every child and repolished.
-      if (!r.widget->testAttribute(Qt::WA_SetPalette) || palette != r.widget->palette()) {
-        r.widget->setPalette(palette);
-      }
-      r.widget->setAutoFillBackground(!text_kind &&
-                                      (c.kind() != ControlKind::kLabel || c.BackStyle() != 0));
+    case Property::kForeColor:
+      if (ShowColours(*r.widget, c) && awake_) KeepOwnLooks(*r.widget, Property::kBackColor);
       break;
-    }
-    case Property::kFontName: {
-      QFont font = r.widget->font();
-      font.setFamily(ToQString(c.FontName()));
-      font.setPointSizeF(kPointSize);
-      if (!r.widget->testAttribute(Qt::WA_SetFont) || font != r.widget->font()) {
-        r.widget->setFont(font);
+    case Property::kFontName:
+      if (ShowFont(*r.widget, c.FontName(), kPointSize) && awake_) {
+        KeepOwnLooks(*r.widget, Property::kFontName);
       }
       break;
-    }
     default:
       break;
   }
@@ -326,8 +320,29 @@ void FormWindow::Update(ControlRecord& r, Property p) {
   r.syncing = false;
 }
 
+// The colours or font of `container` changed: the controls inside it that showed their own by
+// inheriting the old ones take them explicitly (the new ones reached them, and their contents).
+void FormWindow::KeepOwnLooks(const QWidget& container, Property property) {
+  for (ControlRecord* r : tree_order_) {
+    if (r->widget->parentWidget() != &container || r->control == nullptr) continue;
+    if (property == Property::kFontName) {
+      ShowFont(*r->widget, r->control->FontName(), kPointSize);
+    } else {
+      ShowColours(*r->widget, *r->control);
+    }
+    KeepOwnLooks(*r->widget, property);
+  }
+}
+
 void FormWindow::FormChanged(Property property) {
   if (form_ == nullptr || !awake_) return;
+  ShowForm(property);
+  if (property == Property::kBackColor || property == Property::kFontName) {
+    KeepOwnLooks(*this, property);
+  }
+}
+
+void FormWindow::ShowForm(Property property) {
   switch (property) {
     case Property::kCaption:
       setWindowTitle(ToQString(form_->Caption()));
@@ -336,20 +351,12 @@ void FormWindow::FormChanged(Property property) {
     case Property::kHeight:
       setFixedSize(TwipsToPixels(form_->Width(), dpi_), TwipsToPixels(form_->Height(), dpi_));
       break;
-    case Property::kBackColor: {
-      QPalette palette = this->palette();
-      palette.setColor(QPalette::Window, ToQColor(form_->BackColor(), QApplication::palette()));
-      setPalette(palette);
-      setAutoFillBackground(true);
+    case Property::kBackColor:
+      ShowWindowColour(*this, form_->BackColor());
       break;
-    }
-    case Property::kFontName: {
-      QFont font = this->font();
-      font.setFamily(ToQString(form_->FontName()));
-      font.setPointSizeF(kPointSize);
-      setFont(font);
+    case Property::kFontName:
+      ShowFont(*this, form_->FontName(), kPointSize);
       break;
-    }
     default:
       break;
   }

@@ -52,6 +52,8 @@ class FormWindow final : public QWidget {
   void CreateWidget(ControlRecord& record);
   void FollowSelection(ControlRecord& record);
   void ApplyAll(ControlRecord& record);
+  void ShowForm(forms::Property property);
+  void KeepOwnLooks(const QWidget& container, forms::Property property);
   void NameInputs();
   void Update(ControlRecord& record, forms::Property property);
   bool Key(ControlRecord& record, QKeyEvent* event);
@@ -64,6 +66,7 @@ class FormWindow final : public QWidget {
   double dpi_;
   bool awake_ = false;
   std::vector<std::unique_ptr<ControlRecord>> records_;
+  std::vector<ControlRecord*> tree_order_;  // each container before the controls inside it
   // Every event of every widget and every notification looks its record up: by hash, not by a
   // walk over the form's controls.
   std::unordered_map<const QObject*, ControlRecord*> by_widget_;
