@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/account_verifier.h"
@@ -29,61 +29,51 @@ TEST(InstitutionTable, TheCompiledInFileReadsWithoutErrors) {
 constexpr std::string_view kSources = "key,repository\nAA,one/list\nBB,other/list\n";
 constexpr std::string_view kHeading = "number,name,accounts,sources,read,notes\n";
 
-struct RowCase {
-  std::string line;
-  std::string error;  // part of the error; empty when the row is kept
-};
-void PrintTo(const RowCase& row, std::ostream* os) {
-  *os << row.line;
-}
-
-class InstitutionRowTest : public ::testing::TestWithParam<RowCase> {};
-
-TEST_P(InstitutionRowTest, KeepsAWellFormedRowAndSaysWhatIsWrongWithAnother) {
-  const std::string csv = std::string(kHeading) + GetParam().line + "\n";
-  const InstitutionTable table = ReadInstitutionTable(csv, kSources);
-  if (GetParam().error.empty()) {
-    EXPECT_EQ(table.errors, std::vector<std::string>{});
-    EXPECT_EQ(table.rows.size(), 1u);
-  } else {
-    EXPECT_TRUE(table.rows.empty());
-    ASSERT_EQ(table.errors.size(), 1u);
-    EXPECT_EQ(table.errors[0].rfind("line 2: ", 0), 0u) << table.errors[0];
-    EXPECT_NE(table.errors[0].find(GetParam().error), std::string::npos) << table.errors[0];
+// A well-formed row is kept; another is left out, its line named and what is wrong with it said.
+TEST(InstitutionTable, KeepsAWellFormedRowAndSaysWhatIsWrongWithAnother) {
+  const std::pair<std::string, std::string> rows[] = {
+      {"001,Bank,7,AA,2026-11-22,", ""},
+      {"001,\"Bank, N.A.\",7|12,AA BB,2026-11-22,\"a note, quoted\"", ""},
+      {"828,Central,5-12|14,AA,2026-11-22,", ""},
+      {std::string(kBusinessNumberBankId) + ",Registry,business-number,AA,2026-11-22,", ""},
+      // fields
+      {"001,Bank,7,AA,2026-11-22", "6 fields expected, 5 found"},
+      {"001,\"Bank,7,AA,2026-11-22,", "unbalanced quotes"},
+      {"001,\"Bank\"x,7,AA,2026-11-22,", "unbalanced quotes"},
+      // numbers: three digits, six for the registry
+      {"01,Bank,7,AA,2026-11-22,", "3 digits"},
+      {"00A,Bank,7,AA,2026-11-22,", "3 digits"},
+      {"001,Registry,business-number,AA,2026-11-22,", "6 digits"},
+      // lengths from 1 to 30, rising
+      {"001,Bank,,AA,2026-11-22,", "account lengths"},
+      {"001,Bank,31,AA,2026-11-22,", "account lengths"},
+      {"001,Bank,12-7,AA,2026-11-22,", "account lengths"},
+      {"001,Bank,7||12,AA,2026-11-22,", "account lengths"},
+      {"001,Bank,007,AA,2026-11-22,", "account lengths"},
+      // names: printable ASCII, as the hosts show them
+      {"001,,7,AA,2026-11-22,", "printable ASCII"},
+      {"001,Qu\xC3\xA9"
+       "bec,7,AA,2026-11-22,",
+       "printable ASCII"},
+      // every fact has a listed source and the date it was read
+      {"001,Bank,7,,2026-11-22,", "no source"},
+      {"001,Bank,7,AA CC,2026-11-22,", "unknown source CC"},
+      {"001,Bank,7,AA,22/11/2026,", "YYYY-MM-DD"},
+  };
+  for (const auto& [line, error] : rows) {
+    SCOPED_TRACE(line);
+    const InstitutionTable table =
+        ReadInstitutionTable(std::string(kHeading) + line + "\n", kSources);
+    EXPECT_EQ(table.rows.size(), error.empty() ? 1u : 0u);
+    if (error.empty()) {
+      EXPECT_EQ(table.errors, std::vector<std::string>{});
+    } else {
+      ASSERT_EQ(table.errors.size(), 1u);
+      EXPECT_EQ(table.errors[0].rfind("line 2: ", 0), 0u) << table.errors[0];
+      EXPECT_NE(table.errors[0].find(error), std::string::npos) << table.errors[0];
+    }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, InstitutionRowTest,
-    ::testing::Values(RowCase{"001,Bank,7,AA,2026-11-22,", ""},
-                      RowCase{"001,\"Bank, N.A.\",7|12,AA BB,2026-11-22,\"a note, quoted\"", ""},
-                      RowCase{"828,Central,5-12|14,AA,2026-11-22,", ""},
-                      RowCase{std::string(kBusinessNumberBankId) +
-                                  ",Registry,business-number,AA,2026-11-22,",
-                              ""},
-                      // fields
-                      RowCase{"001,Bank,7,AA,2026-11-22", "6 fields expected, 5 found"},
-                      RowCase{"001,\"Bank,7,AA,2026-11-22,", "unbalanced quotes"},
-                      RowCase{"001,\"Bank\"x,7,AA,2026-11-22,", "unbalanced quotes"},
-                      // numbers: three digits, six for the registry
-                      RowCase{"01,Bank,7,AA,2026-11-22,", "3 digits"},
-                      RowCase{"00A,Bank,7,AA,2026-11-22,", "3 digits"},
-                      RowCase{"001,Registry,business-number,AA,2026-11-22,", "6 digits"},
-                      // lengths from 1 to 30, rising
-                      RowCase{"001,Bank,,AA,2026-11-22,", "account lengths"},
-                      RowCase{"001,Bank,31,AA,2026-11-22,", "account lengths"},
-                      RowCase{"001,Bank,12-7,AA,2026-11-22,", "account lengths"},
-                      RowCase{"001,Bank,7||12,AA,2026-11-22,", "account lengths"},
-                      RowCase{"001,Bank,007,AA,2026-11-22,", "account lengths"},
-                      // names: printable ASCII, as the hosts show them
-                      RowCase{"001,,7,AA,2026-11-22,", "printable ASCII"},
-                      RowCase{"001,Qu\xC3\xA9"
-                              "bec,7,AA,2026-11-22,",
-                              "printable ASCII"},
-                      // every fact has a listed source and the date it was read
-                      RowCase{"001,Bank,7,,2026-11-22,", "no source"},
-                      RowCase{"001,Bank,7,AA CC,2026-11-22,", "unknown source CC"},
-                      RowCase{"001,Bank,7,AA,22/11/2026,", "YYYY-MM-DD"}));
 
 TEST(InstitutionTable, NeedsItsHeadingAndRisingNumbers) {
   // The rows are views into the text, which must outlive them.
