@@ -54,8 +54,7 @@ TEST(ModelNotifications, EverySetterNamesItsProperty) {
        {"dlCountry.ColumnHeadings"}},
       {"dlCountry",
        [](C& c) {
-         std::vector<std::vector<std::string>> rows(250, {"Name", "Code"});
-         c.SetRows(std::move(rows));
+         c.SetRows({{"A", "1"}, {"B", "2"}});
        },
        {"dlCountry.List"}},
       {"optB", [](C& c) { c.SetValue(-1); }, {"optB.Value"}},

@@ -67,8 +67,8 @@ TEST_F(CountriesCommandTest, RoundTripsTheSampleFile) {
   EXPECT_EQ(Countries({"list", copy.string()}).out, list.out);
 }
 
-// Every part of the file is covered: a changed byte of magic, version, nonce, text or tag, or a
-// file cut short, is refused, and nothing is written for decipher.
+// A changed byte or a file cut short is refused (any byte, any cut: fuzz_country_file), with
+// the command's message, and nothing is written for decipher.
 TEST_F(CountriesCommandTest, RefusesTamperedFiles) {
   const size_t size = sealed_bytes_.size();
   const auto flipped = [&](size_t at) {
@@ -82,10 +82,7 @@ TEST_F(CountriesCommandTest, RefusesTamperedFiles) {
   } cases[] = {
       {"magic", flipped(0)},
       {"version", flipped(4)},
-      {"nonce", flipped(10)},
-      {"text", flipped(country_file::kHeaderSize + 5)},
       {"tag", flipped(size - 1)},
-      {"last byte cut", sealed_bytes_.substr(0, size - 1)},
       {"header only", sealed_bytes_.substr(0, country_file::kHeaderSize)},
       {"empty", ""},
       {"older format", "NVC1" + std::string(48, 'x')},
