@@ -1,6 +1,7 @@
-// The acceptance's error trap: a failure of the platform's regular-expression object while the
-// e-mail address is checked is reported under the procedure's label and leaves the dialog open.
-// (The checks themselves are in the biller_accept_*.scn scenarios.)
+// A failure of the platform's regular-expression object, which no scenario can arrange: the
+// web-address checks raise it to their caller, and the acceptance's error trap reports it under
+// the procedure's label and leaves the dialog open. (What the checks answer is in checks_email.scn
+// and the biller_accept_*.scn scenarios.)
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -9,6 +10,7 @@
 #include "component/context.h"
 #include "dialogs/biller/frm_random_info.h"
 #include "dialogs/biller/random_info_events.h"
+#include "dialogs/biller/web_address_checks.h"
 #include "forms/user_input.h"
 #include "platform/runtime_error.h"
 #include "support/test_host.h"
@@ -31,7 +33,7 @@ struct Events final : RandomInfoEvents {
   int accepted = 0;
 };
 
-TEST(RandomInfoAcceptance, ARuntimeFailureIsReportedAndTheDialogStaysOpen) {
+TEST(RandomInfoAcceptance, AFailingRegexIsRaisedAndTheAcceptanceReportsIt) {
   testing::Host h;
   ComponentStore& s = h.ctx.store;
   s.gstrInstallRoot = ::testing::TempDir();
@@ -61,6 +63,10 @@ TEST(RandomInfoAcceptance, ARuntimeFailureIsReportedAndTheDialogStaysOpen) {
   EXPECT_TRUE(dialog->IsLoaded());
   EXPECT_EQ(h.ctx.store.PayeeEmail, "pay@acme.ca");
   dialog->Unload();
+
+  std::string message;
+  EXPECT_THROW(ValidateWebsite(h.ctx, "www.example.com", message), RuntimeError);
+  EXPECT_FALSE(ValidateEmailAddress(h.ctx, "a@b", message, false)) << "a short address is asked";
 }
 
 }  // namespace
