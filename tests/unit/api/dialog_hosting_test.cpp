@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -125,27 +124,22 @@ TEST(DialogHosting, AdviseAndUnadvise) {
 }
 
 // A host may release the class while its embedded dialog is still open; the dialog is then held
-// only by the runtime, and closing it (the handlers go on after the unload) must neither touch
-// freed memory nor reach the released class.
+// only by the runtime, and closing it by its cancel button (whose handler goes on after the
+// unload) must neither touch freed memory nor reach the released class. (The close box, and the
+// COM server kept until the dialog closes: dialog_client_test under Wine.)
 TEST(DialogHosting, DialogOutlivesItsClass) {
-  const std::function<void(forms::Form&)> closes[] = {
-      [](forms::Form& f) { forms::user::CloseBox(f); },
-      [](forms::Form& f) { forms::user::Click(f.Ctl("cmd_cancel")); },
-  };
-  for (const auto& close : closes) {
-    Host h;
-    RecordingSink sink;
-    {
-      ClsRandom cls(h.ctx);
-      cls.Advise(sink);
-      cls.ShowForm_Remote();
-    }
-    ASSERT_EQ(OpenDialogs(h).size(), 1U);
-    sink.log.clear();  // the street's focus report while the class was alive
-    close(*OpenDialogs(h).front());
-    EXPECT_TRUE(OpenDialogs(h).empty());
-    EXPECT_EQ(sink.log, "");
+  Host h;
+  RecordingSink sink;
+  {
+    ClsRandom cls(h.ctx);
+    cls.Advise(sink);
+    cls.ShowForm_Remote();
   }
+  ASSERT_EQ(OpenDialogs(h).size(), 1U);
+  sink.log.clear();  // the street's focus report while the class was alive
+  forms::user::Click(OpenDialogs(h).front()->Ctl("cmd_cancel"));
+  EXPECT_TRUE(OpenDialogs(h).empty());
+  EXPECT_EQ(sink.log, "");
 }
 
 }  // namespace
