@@ -169,22 +169,18 @@ TEST(Input, EditingActsOnTheSelectionWithinMaxLength) {
   EXPECT_EQ(name.SelText(), "\xC3\xA9");
 }
 
-// A modal dialog runs its own input loop: keys sent before it opened reach it, and keys its own
-// handlers send arrive while it is open, not after the event that opened it has finished.
-TEST(Input, ModalDialogsReceiveSentKeys) {
+// A modal dialog runs its own input loop: keys its own handlers send arrive while it is open, not
+// after the key that opened it. (Keys sent before it opened: fxbank_sections.scn.)
+TEST(Input, KeysSentInAModalDialogArriveWhileItIsOpen) {
   Harness h;
   h.form->Show();
   forms::Control& code = h.C("txtCode");
   code.events.KeyPress = [&](int16_t& k) {
-    if (k != 13) return;
-    h.app.SendKeys("x");
-    h.child->Show(true);
+    if (k == 13) h.child->Show(true);
   };
-  std::string at_open;
   std::string after_key;
   h.driver.script = [&](forms::Form& dialog) {
     forms::Control& field = dialog.Ctl("txtName");
-    at_open = field.Text();
     field.events.KeyPress = [&](int16_t& k) {
       if (k == 'q') h.app.SendKeys("z");
     };
@@ -193,8 +189,7 @@ TEST(Input, ModalDialogsReceiveSentKeys) {
     dialog.Unload();
   };
   forms::user::Key(code, 13);
-  EXPECT_EQ(at_open, "x");
-  EXPECT_EQ(after_key, "xqz");
+  EXPECT_EQ(after_key, "qz");
 }
 
 TEST(Input, SendKeysNotation) {
