@@ -19,8 +19,9 @@ constexpr std::array<forms::ControlDesign, 1> kControls = {
 constexpr forms::FormDesign kDesign{.name = "frmTest", .caption = "Test"};
 
 // The first entry beginning with the text, ignoring case, replaces it in the entry's spelling and
-// the completed part stands selected (in characters); with no such entry nothing changes; an
-// empty list's one-past-the-end entry reads as empty and selects no row.
+// the completed part stands selected (in characters); an empty list's one-past-the-end entry
+// reads as empty and selects no row. (What the foreign bank dialog's province shows, a text no
+// entry begins with included: fxbank_sections.scn.)
 TEST(ComboBoxAutoComplete, CompletesWithTheFirstEntryBeginningWithTheText) {
   struct Row {
     std::vector<std::string> list;
@@ -34,7 +35,6 @@ TEST(ComboBoxAutoComplete, CompletesWithTheFirstEntryBeginningWithTheText) {
       {{"Alberta", "Ontario", "Onslow"}, "on", "Ontario", 1, 2, 5},
       {{"Alberta", "Ontario"}, "ONT", "Ontario", 1, 3, 4},
       {{"Ontario"}, "ontario", "Ontario", 0, 7, 0},
-      {{"Alberta", "Ontario"}, "x", "x", -1, 1, 0},
       {{"Alberta", "Ontario"}, "", "Alberta", 0, 0, 7},
       {{}, "", "", -1, 0, 0},
       {{quebec}, "qu", quebec, 0, 2, 4},
@@ -55,23 +55,6 @@ TEST(ComboBoxAutoComplete, CompletesWithTheFirstEntryBeginningWithTheText) {
     EXPECT_EQ(combo.SelLength(), row.sel_length);
     EXPECT_EQ(changes, row.text != row.typed ? 1 : 0);
   }
-}
-
-TEST(ComboBoxAutoComplete, AChangeHandlerCallingItAgainSettles) {
-  testing::Host h;
-  auto form = std::make_shared<forms::Form>(h.ctx.forms(), kDesign, kControls);
-  forms::Control& combo = form->Ctl("cmbProvince");
-  combo.AddItem("Manitoba");
-  Random random(h.ctx);
-  int calls = 0;
-  combo.events.Change = [&] {
-    ++calls;
-    random.ComboBoxAutoComplete(combo);
-  };
-  combo.SetText("ma");
-  EXPECT_EQ(combo.Text(), "Manitoba");
-  EXPECT_EQ(combo.SelText(), "nitoba");
-  EXPECT_EQ(calls, 2);
 }
 
 }  // namespace
