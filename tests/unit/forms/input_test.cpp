@@ -1,7 +1,7 @@
 // The runtime's input path below what a scenario sees: the order of a key's events, handlers that
 // rewrite or refuse keys, editing at the selection within MaxLength, sent keys, what a list choice
 // fires. What a person sees of the biller dialog's keys is in runtime_input.scn and
-// dialog_keys.scn.
+// biller_entry_rules.scn.
 #include <gtest/gtest.h>
 
 #include <functional>
