@@ -11,15 +11,8 @@
 #include <vector>
 
 #include "api/cls_random.h"
-#include "app/thread_context.h"
-#include "component/context.h"
+#include "biller_windows.h"
 #include "demo_samples.h"
-#include "form_window.h"
-#include "forms/form.h"
-#include "installation_tree.h"
-#include "qt_integration.h"
-#include "qt_services.h"
-#include "qt_view.h"
 
 namespace nvrandom::qt {
 namespace {
@@ -30,18 +23,11 @@ class BillerBadInputTest : public QObject {
   Q_OBJECT
 
  private:
-  std::unique_ptr<Integration> integration_;
-  std::unique_ptr<scenario::InstallationTree> tree_;
+  std::unique_ptr<BillerWindows> windows_;
   QtMessageBoxService* boxes_ = nullptr;
 
-  std::vector<forms::Form*> BillerForms() const {
-    std::vector<forms::Form*> forms;
-    for (const auto& form : app::ThreadContext().forms().LoadedForms()) {
-      if (form->Name() == "frmRandomInfo") forms.push_back(form.get());
-    }
-    return forms;
-  }
-  FormWindow* WindowOf(forms::Form& form) const { return integration_->view().WindowOf(form); }
+  static std::vector<forms::Form*> BillerForms() { return BillerWindows::Loaded("frmRandomInfo"); }
+  FormWindow* WindowOf(forms::Form& form) const { return windows_->WindowOf(form); }
   QLineEdit* Street(forms::Form& form) const {
     FormWindow* window = WindowOf(form);
     return window != nullptr ? qobject_cast<QLineEdit*>(window->WidgetOf("ran_payee_street"))
@@ -56,36 +42,33 @@ class BillerBadInputTest : public QObject {
     QCOMPARE(form.Ctl("ran_payee_street").Text(), expected);
     QCOMPARE(street->text(), QString(expected));
   }
-  // Closes every biller dialog still open, so that no modal show outlives a failed check.
-  void CloseAll() {
+  // Closes every biller dialog still open but `keep`, so that no modal show outlives a failed
+  // check.
+  void CloseAll(const forms::Form* keep = nullptr) {
     for (forms::Form* form : BillerForms()) {
-      if (FormWindow* window = WindowOf(*form)) window->close();
+      FormWindow* window = WindowOf(*form);
+      if (form != keep && window != nullptr) window->close();
     }
   }
 
  private slots:
   void initTestCase() {
-    integration_ = std::make_unique<Integration>();
-    tree_ = std::make_unique<scenario::InstallationTree>();
-    QVERIFY(tree_->ok());
-    boxes_ = dynamic_cast<QtMessageBoxService*>(app::ThreadContext().services.message_box.get());
-    QVERIFY(boxes_ != nullptr);
+    windows_ = std::make_unique<BillerWindows>();
+    QVERIFY(windows_->ok());
+    boxes_ = BillerWindows::boxes();
   }
-  void init() { app::ThreadContext().store = ComponentStore{}; }
+  void init() { BillerWindows::ResetRecord(); }
   void cleanup() {
     boxes_->on_shown = nullptr;
     QVERIFY(BillerForms().empty());
   }
-  void cleanupTestCase() {
-    integration_.reset();
-    tree_.reset();
-  }
+  void cleanupTestCase() { windows_.reset(); }
 
   // A host that calls ShowForm again while a biller dialog is open gets a second dialog over the
   // first; each keeps what was typed into it, and each closes on its own.
   void aSecondShowFormWhileOneIsOpen() {
     ClsRandom first;
-    demo::LoadSample(first, "business", tree_->install());
+    demo::LoadSample(first, "business", windows_->install());
     int32_t inner_result = -1;
     bool checked = false;
     QTimer::singleShot(0, this, [&] {
@@ -94,11 +77,7 @@ class BillerBadInputTest : public QObject {
       forms::Form& outer = *BillerForms().front();
       TypeOnStreet(outer, " b", "100 KING ST W B");
       QTimer::singleShot(0, this, [&] {
-        const auto close_inner = qScopeGuard([&] {
-          for (forms::Form* form : BillerForms()) {
-            if (form != &outer && WindowOf(*form) != nullptr) WindowOf(*form)->close();
-          }
-        });
+        const auto close_inner = qScopeGuard([&] { CloseAll(&outer); });
         QCOMPARE(BillerForms().size(), size_t{2});
         forms::Form& inner = *BillerForms().back();
         QVERIFY(&inner != &outer && WindowOf(inner) != WindowOf(outer));
@@ -124,7 +103,7 @@ class BillerBadInputTest : public QObject {
   // goes with it, the modal show returns, and the typed text is not accepted.
   void theDialogUnloadedUnderItsMessageBox() {
     ClsRandom biller;
-    demo::LoadSample(biller, "business", tree_->install());
+    demo::LoadSample(biller, "business", windows_->install());
     QString shown;
     boxes_->on_shown = [&](QMessageBox& box) {
       shown = box.text();

@@ -18,17 +18,10 @@
 #include <functional>
 
 #include "api/cls_random.h"
-#include "app/thread_context.h"
-#include "component/context.h"
+#include "biller_windows.h"
 #include "demo_samples.h"
-#include "form_window.h"
-#include "forms/form.h"
-#include "installation_tree.h"
 #include "qt_fonts.h"
-#include "qt_integration.h"
-#include "qt_services.h"
 #include "qt_units.h"
-#include "qt_view.h"
 
 namespace nvrandom::qt {
 namespace {
@@ -121,25 +114,15 @@ class LayoutTest : public QObject {
   Q_OBJECT
 
  private:
-  std::unique_ptr<Integration> integration_;
-  std::unique_ptr<scenario::InstallationTree> tree_;
+  std::unique_ptr<BillerWindows> windows_;
   QTemporaryDir pictures_;
   QStringList messages_;
 
-  forms::Form* Loaded(std::string_view name) const {
-    for (const auto& form : app::ThreadContext().forms().LoadedForms()) {
-      if (form->Name() == name) return form.get();
-    }
-    return nullptr;
-  }
-  FormWindow* WindowOf(std::string_view name) const {
-    forms::Form* form = Loaded(name);
-    return form != nullptr ? integration_->view().WindowOf(*form) : nullptr;
-  }
+  FormWindow* WindowOf(std::string_view name) const { return windows_->WindowOf(name); }
 
   // The biller dialog on a sample, in a window of its own (nullptr when it did not open).
   FormWindow* Open(ClsRandom& biller, const std::string& sample) {
-    demo::LoadSample(biller, sample, tree_->install());
+    demo::LoadSample(biller, sample, windows_->install());
     if (biller.ShowForm_Remote() != 0) return nullptr;
     FormWindow* window = WindowOf("frmRandomInfo");
     return window != nullptr && QTest::qWaitForWindowExposed(window) ? window : nullptr;
@@ -162,8 +145,7 @@ class LayoutTest : public QObject {
     });
     QTest::mouseClick(&button, Qt::LeftButton);
     QVERIFY(checked);
-    QVERIFY(Loaded(form_name) == nullptr || WindowOf(form_name) == nullptr ||
-            !WindowOf(form_name)->isVisible());
+    QVERIFY(WindowOf(form_name) == nullptr || !WindowOf(form_name)->isVisible());
   }
 
   void CheckDrawing(FormWindow& window) {
@@ -176,25 +158,18 @@ class LayoutTest : public QObject {
 
  private slots:
   void initTestCase() {
-    integration_ = std::make_unique<Integration>();
-    tree_ = std::make_unique<scenario::InstallationTree>();
-    QVERIFY(tree_->ok());
+    windows_ = std::make_unique<BillerWindows>();
+    QVERIFY(windows_->ok());
     QVERIFY(pictures_.isValid());
     // A message box would wait for a person: none is expected while the layouts are shown.
-    auto* boxes =
-        dynamic_cast<QtMessageBoxService*>(app::ThreadContext().services.message_box.get());
-    QVERIFY(boxes != nullptr);
-    boxes->on_shown = [this](QMessageBox& box) {
+    BillerWindows::boxes()->on_shown = [this](QMessageBox& box) {
       messages_ << box.text();
       box.reject();
     };
   }
-  void init() { app::ThreadContext().store = ComponentStore{}; }
+  void init() { BillerWindows::ResetRecord(); }
   void cleanup() { QVERIFY2(messages_.isEmpty(), qPrintable(messages_.join(u'\n'))); }
-  void cleanupTestCase() {
-    integration_.reset();
-    tree_.reset();
-  }
+  void cleanupTestCase() { windows_.reset(); }
 
   // A font the dialogs name resolves to the free font it is mapped to, not to a default face.
   void theDialogsFontsAreFound_data() {

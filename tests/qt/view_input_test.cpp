@@ -4,7 +4,6 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -32,95 +31,32 @@ using K = forms::ControlKind;
 
 const forms::FormDesign kDesign{"frmProbe", "Probe", 6000, 4000, false};
 
+// A control of the probe form: 2000 x 315 twips unless its design gives its own size.
+constexpr forms::ControlDesign At(int32_t left, int32_t top, forms::ControlDesign design) {
+  design.left = left;
+  design.top = top;
+  if (design.width == 0) design.width = 2000;
+  if (design.height == 0) design.height = 315;
+  return design;
+}
+
 const std::array<forms::ControlDesign, 11> kControls = {{
-    {.kind = K::kTextBox,
-     .name = "txtUpper",
-     .left = 120,
-     .top = 120,
-     .width = 2000,
-     .height = 315,
-     .max_length = 6,
-     .tab_index = 0},
-    {.kind = K::kLabel,
-     .name = "lblPlain",
-     .caption = "&Plain text:",
-     .left = 120,
-     .top = 540,
-     .width = 1300,
-     .height = 255},
-    {.kind = K::kTextBox,
-     .name = "txtPlain",
-     .left = 1500,
-     .top = 540,
-     .width = 2600,
-     .height = 315,
-     .tab_index = 1},
-    {.kind = K::kTextBox,
-     .name = "txtSecret",
-     .left = 120,
-     .top = 960,
-     .width = 2000,
-     .height = 315,
-     .tab_index = 2},
-    {.kind = K::kCheckBox,
-     .name = "chkTick",
-     .caption = "Tick",
-     .left = 120,
-     .top = 1380,
-     .width = 2000,
-     .height = 255,
-     .tab_index = 3},
-    {.kind = K::kFrame,
-     .name = "fraChoice",
-     .caption = "Choice",
-     .left = 2400,
-     .top = 1380,
-     .width = 3000,
-     .height = 1200},
-    {.kind = K::kOptionButton,
-     .name = "optOne",
-     .container = "fraChoice",
-     .caption = "One",
-     .left = 120,
-     .top = 300,
-     .width = 1200,
-     .height = 255,
-     .tab_index = 4},
-    {.kind = K::kOptionButton,
-     .name = "optTwo",
-     .container = "fraChoice",
-     .caption = "Two",
-     .left = 120,
-     .top = 700,
-     .width = 1200,
-     .height = 255,
-     .tab_index = 5},
-    {.kind = K::kComboBox,
-     .name = "cboProv",
-     .left = 120,
-     .top = 1800,
-     .width = 1200,
-     .height = 315,
-     .tab_index = 6},
-    {.kind = K::kDataList,
-     .name = "dlCountry",
-     .left = 3000,
-     .top = 2400,
-     .width = 2400,
-     .height = 315,
-     .tab_index = 8},
-    {.kind = K::kCommandButton,
-     .name = "cmdOK",
-     .caption = "OK",
-     .left = 120,
-     .top = 2400,
-     .width = 1200,
-     .height = 375,
-     .tab_index = 7},
+    At(120, 120, {.kind = K::kTextBox, .name = "txtUpper", .max_length = 6, .tab_index = 0}),
+    At(120, 540, {.kind = K::kLabel, .name = "lblPlain", .caption = "&Plain text:", .width = 1300}),
+    At(1500, 540, {.kind = K::kTextBox, .name = "txtPlain", .width = 2600, .tab_index = 1}),
+    At(120, 960, {.kind = K::kTextBox, .name = "txtSecret", .tab_index = 2}),
+    At(120, 1380, {.kind = K::kCheckBox, .name = "chkTick", .caption = "Tick", .tab_index = 3}),
+    At(2400, 1380, {.kind = K::kFrame, .name = "fraChoice", .width = 3000, .height = 1200}),
+    At(120, 300,
+       {.kind = K::kOptionButton, .name = "optOne", .container = "fraChoice", .tab_index = 4}),
+    At(120, 700,
+       {.kind = K::kOptionButton, .name = "optTwo", .container = "fraChoice", .tab_index = 5}),
+    At(120, 1800, {.kind = K::kComboBox, .name = "cboProv", .tab_index = 6}),
+    At(3000, 2700, {.kind = K::kDataList, .name = "dlCountry", .width = 2400, .tab_index = 8}),
+    At(120, 2700, {.kind = K::kCommandButton, .name = "cmdOK", .caption = "OK", .tab_index = 7}),
 }};
 
-// Its handlers do what the biller dialog's do to keys: upper-case letters, refuse digits and move
-// on when the field is full; refuse a paste; count clicks.
+// Its handlers change and refuse keys, move on when a field is full, refuse a paste, count clicks.
 class ProbeForm final : public forms::Form {
  public:
   explicit ProbeForm(forms::Application& app) : forms::Form(app, kDesign, kControls) {
@@ -192,22 +128,15 @@ class ViewInputTest : public QObject {
     app_.reset();
   }
 
+  // Each key goes to the widget that has the focus when it is typed: after the handlers changed
+  // or refused it, and after they moved the focus on.
   void typingGoesThroughTheHandlersAndBack() {
-    QLineEdit* edit = Widget<QLineEdit>("txtUpper");
-    QCOMPARE(QApplication::focusWidget(), edit);
-    QTest::keyClicks(edit, "ab1c");
-    QCOMPARE(Ctl("txtUpper").Text(), "ABC");
-    QCOMPARE(edit->text(), QString("ABC"));
-    QCOMPARE(edit->cursorPosition(), 3);
-  }
-
-  void aFullFieldMovesOnAndTheRestIsTypedInTheNext() {
-    // As at a keyboard, each key goes to the widget that has the focus when it is typed.
-    for (const char c : std::string_view("abcdefgh")) {
+    QCOMPARE(QApplication::focusWidget(), Widget<QLineEdit>("txtUpper"));
+    for (const char c : std::string_view("ab1cdefgh")) {
       QTest::keyClick(QApplication::focusWidget(), c);
     }
     QCOMPARE(Ctl("txtUpper").Text(), "ABCDEF");
-    QCOMPARE(Ctl("txtPlain").Text(), "gh");
+    QCOMPARE(Widget<QLineEdit>("txtUpper")->text(), QString("ABCDEF"));
     QCOMPARE(app_->Focused(), &Ctl("txtPlain"));
     QCOMPARE(QApplication::focusWidget(), Widget<QLineEdit>("txtPlain"));
     QCOMPARE(Widget<QLineEdit>("txtPlain")->text(), QString("gh"));
@@ -224,6 +153,7 @@ class ViewInputTest : public QObject {
     QTest::keyClick(edit, Qt::Key_Backspace);
     QCOMPARE(Ctl("txtPlain").Text(), "ell");
     QCOMPARE(edit->text(), QString("ell"));
+    QCOMPARE(edit->cursorPosition(), 3);
     Ctl("txtPlain").SetSelection(1, 2);
     QCOMPARE(edit->selectedText(), QString("ll"));
     edit->setSelection(0, 1);  // as the mouse selects
@@ -236,32 +166,22 @@ class ViewInputTest : public QObject {
     QVERIFY(Widget<QLineEdit>("txtUpper")->accessibleName().isEmpty());
   }
 
-  void thePasswordFieldShowsOnlyItsMask() {
-    QLineEdit* edit = Widget<QLineEdit>("txtSecret");
-    QTest::mouseClick(edit, Qt::LeftButton);
-    QTest::keyClicks(edit, "s3cret");
-    QCOMPARE(Ctl("txtSecret").Text(), "s3cret");
-    QCOMPARE(edit->text(), QString("******"));
-  }
-
-  void pastesGoThroughTheGuards() {
-    QApplication::clipboard()->setText("pasted");
+  // The widget shows the mask, the model holds the text; a paste the handler refuses puts nothing
+  // in, one it allows puts the clipboard's text in.
+  void maskedTextAndPastesReachTheModel() {
     QLineEdit* secret = Widget<QLineEdit>("txtSecret");
     QTest::mouseClick(secret, Qt::LeftButton);
+    QTest::keyClicks(secret, "s3");
+    QCOMPARE(Ctl("txtSecret").Text(), "s3");
+    QCOMPARE(secret->text(), QString("**"));
+    QApplication::clipboard()->setText("pasted");
     QTest::keyClick(secret, Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(Ctl("txtSecret").Text(), "");
-    // A long paste: all of it where there is no limit, what fits where there is one.
-    const QString long_text(10000, u'x');
-    QApplication::clipboard()->setText(long_text);
+    QCOMPARE(Ctl("txtSecret").Text(), "s3");
     QLineEdit* plain = Widget<QLineEdit>("txtPlain");
     QTest::mouseClick(plain, Qt::LeftButton);
     QTest::keyClick(plain, Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(Ctl("txtPlain").Text().size(), size_t{10000});
-    QCOMPARE(plain->text(), long_text);
-    QLineEdit* upper = Widget<QLineEdit>("txtUpper");
-    QTest::mouseClick(upper, Qt::LeftButton);
-    QTest::keyClick(upper, Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(Ctl("txtUpper").Text(), "xxxxxx");
+    QCOMPARE(Ctl("txtPlain").Text(), "pasted");
+    QCOMPARE(plain->text(), QString("pasted"));
   }
 
   void inputMethodTextIsTypedAsItsCharacters() {

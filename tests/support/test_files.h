@@ -3,8 +3,6 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "platform/path.h"
@@ -43,11 +41,9 @@ class TempFolder {
   std::filesystem::path path_;
 };
 
+// The file's bytes, empty when it cannot be read.
 inline std::string ReadFile(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  return text.str();
+  return path::ReadFile(file.string()).value_or("");
 }
 
 }  // namespace nvrandom::testing

@@ -1,6 +1,6 @@
 // The runtime's input path below what a scenario sees: the order of a key's events, editing at
 // the selection within MaxLength, what a list choice fires. What handlers do to keys, and sent
-// keys, are in runtime_input.scn, dialog_keys.scn and biller_entry_rules.scn.
+// keys, are in runtime_input.scn and biller_entry_rules.scn.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -170,7 +170,7 @@ TEST(Input, EditingActsOnTheSelectionWithinMaxLength) {
 }
 
 // A modal dialog runs its own input loop: keys its own handlers send arrive while it is open, not
-// after the key that opened it. (Keys sent before it opened: fxbank_sections.scn.)
+// after the key that opened it. (Keys sent before it opened: fxbank_acceptance.scn.)
 TEST(Input, KeysSentInAModalDialogArriveWhileItIsOpen) {
   Harness h;
   h.form->Show();

@@ -39,8 +39,8 @@ TEST(Lifecycle, CancelKeepsTheFormLoaded) {
 
 // A modal Show returns when the form is unloaded or hidden; Hide keeps it loaded so that the
 // caller can still read what the user entered. A show nobody can answer is closed by code.
-// QueryUnload is told how the unload started (code and the close box: dialog_closing.scn, as the
-// biller dialog cancels every mode but code), and an unloaded form leaves the collection that
+// QueryUnload is told how the unload started (the close box: dialog_closing.scn, as the biller
+// dialog cancels every mode but code), and an unloaded form leaves the collection that
 // Unload_From_Remote walks.
 TEST(Lifecycle, ModalShowReturnsWhenTheFormIsUnloadedOrHidden) {
   struct Case {
@@ -51,6 +51,7 @@ TEST(Lifecycle, ModalShowReturnsWhenTheFormIsUnloadedOrHidden) {
   };
   const Case cases[] = {
       {"hidden", [](forms::Form& f) { f.Hide(); }, true, nullptr},
+      {"unloaded by code", [](forms::Form& f) { f.Unload(); }, false, "QueryUnload 1"},
       {"system shutdown", [](forms::Form& f) { forms::user::Shutdown(f); }, false, "QueryUnload 2"},
       {"task list", [](forms::Form& f) { f.Unload(forms::unload_mode::kTaskList); }, false,
        "QueryUnload 3"},

@@ -13,7 +13,7 @@ namespace nvrandom {
 namespace {
 
 // Whatever stands where the country file should be, the service answers with the text of an
-// intact file and nothing otherwise (a missing or garbled file: biller_bad_input.scn): a folder,
+// intact file and nothing otherwise (a missing or garbled file: biller_lists.scn): a folder,
 // a file over the size limit.
 TEST(BuiltinCountryFileDecipher, ReadsOnlyAnIntactFile) {
   testing::TempFolder folder;

@@ -21,7 +21,7 @@ constexpr forms::FormDesign kDesign{.name = "frmTest", .caption = "Test"};
 // The first entry beginning with the text, ignoring case, replaces it in the entry's spelling and
 // the completed part stands selected (in characters); an empty list's one-past-the-end entry
 // reads as empty and selects no row. (What the foreign bank dialog's province shows, a text no
-// entry begins with included: fxbank_sections.scn.)
+// entry begins with included: fxbank_acceptance.scn.)
 TEST(ComboBoxAutoComplete, CompletesWithTheFirstEntryBeginningWithTheText) {
   struct Row {
     std::vector<std::string> list;

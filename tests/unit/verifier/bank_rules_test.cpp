@@ -43,8 +43,9 @@ TEST(BankRules, AnswerAsThePublishedExamplesAndSayWhy) {
       // WS: a Bank of Montreal example wrong in both parts; 828 takes 5 to 12 digits
       {"001", "123", "123456789", kRefused, "transit"},
       {"828", "10345", "1234", kRefused, "Central 1"},
-      // WS: HSBC 9, Desjardins 7 (its verification digit included)
+      // WS: HSBC 9, Tangerine 10, Desjardins 7 (its verification digit included)
       {"016", "12345", "123456789", kToBeConfirmed, ""},
+      {"614", "12345", "1234567", kRefused, "Tangerine Bank has 10 digits"},
       {"815", "12345", "1234567", kToBeConfirmed, ""},
       {"815", "30000", "123456", kRefused, "Caisses Desjardins du Quebec has 7 digits"},
       // WS gives CIBC 7 digits; its second brand (CS: Simplii, 30800) has the general 7 to 12
