@@ -87,11 +87,11 @@ TEST(BankRules, KnowTheInstitutionsOfThePublicLists) {
     std::string name;
   };
   const Row rows[] = {
+      {"CT", "001", kValid, "Bank of Montreal"},
       {"CT", "010", kValid, "Canadian Imperial Bank of Commerce"},
       {"CT", "1234", kRefused, ""},
       {"CT", "abc", kRefused, ""},
-      // CS, SM: 328 is Citibank, N.A. (260, Citibank Canada, and 001, Bank of Montreal, are named
-      // in checks_bank.scn's messages)
+      // CS, SM: 328 is Citibank, N.A. (260, Citibank Canada, is named in checks_bank.scn)
       {"CS SM", "328", kValid, "Citibank, N.A."},
       // in CS and SM, not in the earlier table
       {"CS SM", "326", kValid, "President's Choice Financial"},
