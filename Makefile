@@ -1,6 +1,6 @@
 # The two entry points of the README. Both install what they need on a fresh Debian machine.
 APT_PACKAGES := cmake ninja-build g++ clang libclang-rt-14-dev pkg-config libgtest-dev libgmock-dev \
-                libbenchmark-dev libre2-dev libssl-dev nlohmann-json3-dev clang-format \
+                libbenchmark-dev libre2-dev nettle-dev nlohmann-json3-dev clang-format \
                 g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine64 wine64-tools fonts-wine \
                 imagemagick \
                 xvfb googletest qt6-base-dev qt6-base-dev-tools qt6-svg-dev xauth x11-utils xdotool \

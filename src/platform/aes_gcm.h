@@ -8,7 +8,7 @@
 
 // AES-256-GCM with a 12-byte nonce and a 16-byte tag, and the random source for nonces: the only
 // cryptography the component needs, kept this small so each platform supplies it from its own
-// library (OpenSSL's EVP interface on POSIX, CNG on Windows).
+// library (Nettle on POSIX, CNG on Windows).
 namespace nvrandom::crypto {
 
 inline constexpr size_t kAesGcmKeySize = 32;

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-// The enciphered country file, byte by byte. Every build (OpenSSL here, CNG on Windows) writes
+// The enciphered country file, byte by byte. Every build (Nettle here, CNG on Windows) writes
 // and reads exactly this layout:
 //
 //   offset  size  field

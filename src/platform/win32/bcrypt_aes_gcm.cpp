@@ -1,4 +1,4 @@
-// AES-256-GCM through Windows CNG (bcrypt), the same sealed format as the OpenSSL build, so one
+// AES-256-GCM through Windows CNG (bcrypt), the same sealed format as the Nettle build, so one
 // country file serves both platforms.
 #include <windows.h>
 // windows.h first: bcrypt.h uses its types.
