@@ -34,10 +34,16 @@ QString Masked(const Control& control) {
                  mask.isEmpty() ? u'*' : mask[0]);
 }
 
+// Only a change is written: moving the caret, even where it already is, updates the input
+// method's and the accessibility's view of the field.
 void ShowSelection(QLineEdit& edit, const Control& control) {
   if (control.SelLength() > 0) {
-    edit.setSelection(control.SelStart(), control.SelLength());
-  } else {
+    const int end = control.SelStart() + control.SelLength();
+    if (edit.selectionStart() != control.SelStart() ||
+        edit.selectionLength() != control.SelLength() || edit.cursorPosition() != end) {
+      edit.setSelection(control.SelStart(), control.SelLength());
+    }
+  } else if (edit.hasSelectedText() || edit.cursorPosition() != control.SelStart()) {
     edit.setCursorPosition(control.SelStart());
   }
 }
@@ -110,6 +116,8 @@ void UpdateTextBox(ControlRecord& r, Property p) {
 
 // Combo boxes and data lists: an editable box whose edit field takes the keys -----------------
 
+// A data list's rows model is set before this: made editable, the box makes its drop-down list
+// and its completer on the model it has then.
 QComboBox* SetUpCombo(ControlRecord& r, QComboBox* combo) {
   combo->setEditable(true);
   combo->setInsertPolicy(QComboBox::NoInsert);
@@ -236,9 +244,9 @@ class RowsModel final : public QAbstractTableModel {
 };
 
 QWidget* CreateDataList(ControlRecord& r, QWidget* parent) {
-  QComboBox* combo = SetUpCombo(r, new DataListBox(parent));
+  auto* combo = new DataListBox(parent);
   combo->setModel(new RowsModel(r, combo));
-  return combo;
+  return SetUpCombo(r, combo);
 }
 
 void UpdateDataList(ControlRecord& r, Property p) {
