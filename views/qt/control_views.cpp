@@ -15,6 +15,7 @@
 #include "picture_resources.h"
 #include "platform/utf8.h"
 #include "qt_units.h"
+#include "widget_looks.h"
 
 namespace nvrandom::qt {
 
@@ -66,7 +67,7 @@ QWidget* CreateLabel(ControlRecord&, QWidget* parent) {
 void UpdateLabel(ControlRecord& r, Property p) {
   auto* label = static_cast<QLabel*>(r.widget);
   if (p == Property::kCaption) label->setText(WithoutAccessKeys(r.control->Caption()));
-  if (p == Property::kBackStyle) label->setAutoFillBackground(r.control->BackStyle() != 0);
+  if (p == Property::kBackStyle) ShowOpaque(*label, r.control->BackStyle() != 0);
 }
 
 // Hyperlinks: a label drawn as a link; its click goes to the model like any other.
@@ -154,8 +155,11 @@ QWidget* CreateComboBox(ControlRecord& r, QWidget* parent) {
 void UpdateComboBox(ControlRecord& r, Property p) {
   auto* combo = static_cast<QComboBox*>(r.widget);
   if (p == Property::kList) {
+    QStringList items;
+    items.reserve(r.control->ListCount());
+    for (int i = 0; i < r.control->ListCount(); ++i) items.append(ToQString(r.control->List(i)));
     combo->clear();
-    for (int i = 0; i < r.control->ListCount(); ++i) combo->addItem(ToQString(r.control->List(i)));
+    combo->addItems(items);
     combo->setCurrentIndex(r.control->ListIndex());
     ShowEditText(*combo->lineEdit(), *r.control);
   }

@@ -21,15 +21,16 @@ QPixmap PictureOf(const forms::Control& control) {
   (void)registered;
   const QString path = QStringLiteral(":/nvrandom/pictures/%1.%2.svg")
                            .arg(ToQString(control.form().Name()), ToQString(control.Name()));
-  if (!QFile::exists(path)) return {};
   const double dpi = ScreenDpi();
   const QSize size(TwipsToPixels(control.Width(), dpi), TwipsToPixels(control.Height(), dpi));
   if (size.isEmpty()) return {};
-  // A control array's images (the help icons) share one drawing of each size.
+  // A control array's images (the help icons) share one drawing of each size, found before the
+  // resources are searched.
   static QHash<QString, QPixmap> drawn;
   const QString key = QStringLiteral("%1@%2x%3").arg(path).arg(size.width()).arg(size.height());
   const bool shared = control.Index() >= 0;
   if (const auto it = drawn.constFind(key); shared && it != drawn.constEnd()) return *it;
+  if (!QFile::exists(path)) return {};
   QSvgRenderer renderer(path);
   QPixmap pixmap(size);
   pixmap.fill(Qt::transparent);

@@ -49,6 +49,8 @@ QColor ToQColor(uint32_t color, const QPalette& palette) {
 }
 
 QString WithoutAccessKeys(std::string_view caption) {
+  // Most captions have no access key: no copy character by character.
+  if (caption.find('&') == std::string_view::npos) return ToQString(caption);
   QString out;
   const QString in = ToQString(caption);
   for (qsizetype i = 0; i < in.size(); ++i) {

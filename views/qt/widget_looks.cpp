@@ -46,8 +46,8 @@ bool ShowColours(QWidget& widget, const forms::Control& control) {
   const QPalette& system = QApplication::palette();
   const QColor back = ToQColor(control.BackColor(), system);
   const QColor fore = ToQColor(control.ForeColor(), system);
-  widget.setAutoFillBackground(
-      !text_kind && (control.kind() != forms::ControlKind::kLabel || control.BackStyle() != 0));
+  ShowOpaque(widget, !text_kind && (control.kind() != forms::ControlKind::kLabel ||
+                                    control.BackStyle() != 0));
   // An edit field's background is its base; any other widget's is its window and button face.
   if (text_kind) {
     const std::array<RoleColour, 3> roles = {
@@ -61,16 +61,24 @@ bool ShowColours(QWidget& widget, const forms::Control& control) {
   return ShowRoles(widget, roles);
 }
 
+void ShowOpaque(QWidget& widget, bool opaque) {
+  if (widget.autoFillBackground() != opaque) widget.setAutoFillBackground(opaque);
+}
+
 bool ShowWindowColour(QWidget& window, uint32_t colour) {
-  window.setAutoFillBackground(true);
+  ShowOpaque(window, true);
   const std::array<RoleColour, 1> roles = {
       {{QPalette::Window, ToQColor(colour, QApplication::palette())}}};
   return ShowRoles(window, roles);
 }
 
 bool ShowFont(QWidget& widget, std::string_view family, double point_size) {
-  QFont font = widget.font();
-  font.setFamily(ToQString(family));
+  const QString name = ToQString(family);
+  // Most widgets already show their container's font: no copy of it to compare.
+  const QFont& now = widget.font();
+  if (now.pointSizeF() == point_size && now.families() == QStringList{name}) return false;
+  QFont font = now;
+  font.setFamily(name);
   font.setPointSizeF(point_size);
   if (font == widget.font()) return false;
   widget.setFont(font);

@@ -19,6 +19,8 @@ namespace nvrandom::qt {
 // must be shown again when its container's colours or font change, and when it or its container
 // is enabled or disabled.
 bool ShowColours(QWidget& widget, const forms::Control& control);
+// Whether the widget fills its background (an opaque label, any control but a text field).
+void ShowOpaque(QWidget& widget, bool opaque);
 // A form's BackColor on its window.
 bool ShowWindowColour(QWidget& window, uint32_t colour);
 bool ShowFont(QWidget& widget, std::string_view family, double point_size);
