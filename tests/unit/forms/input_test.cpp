@@ -77,18 +77,6 @@ TEST(Input, OnePhysicalKeyFiresEachEventOnce) {
   }
 }
 
-// A key zeroed in KeyDown types nothing: no KeyPress, no edit. (The dialogs' paste guards rely
-// on it; their fields' own filters refuse the paste character too, so no scenario shows it.)
-TEST(Input, AKeyRefusedInKeyDownTypesNothing) {
-  Harness h;
-  h.form->Show();
-  forms::Control& code = h.C("txtCode");
-  code.events.KeyDown = [](int16_t& k, int16_t&) { k = k == 'Q' ? 0 : k; };
-  code.events.KeyPress = [](int16_t& k) { EXPECT_NE(k, 'q'); };
-  forms::user::Type(code, "aqb");
-  EXPECT_EQ(code.Text(), "ab");
-}
-
 // A form with KeyPreview sees each key first (KeyDown, then KeyPress), and what it does to the
 // key is what the control gets; without KeyPreview it sees nothing.
 TEST(Input, KeyPreviewGivesTheFormTheKeyFirst) {
