@@ -29,13 +29,10 @@ class TempFolder {
   TempFolder& operator=(const TempFolder&) = delete;
 
   const std::filesystem::path& path() const { return path_; }
-  const std::filesystem::path& dir() const { return path_; }
   // The folder with a trailing separator, as gstrInstallRoot holds it.
   std::string root() const { return path_.string() + path::kSeparator; }
-  // A DLLPath inside `norvik_folder` of this root.
-  std::string DllPath(const std::string& norvik_folder = "NORVIK") const {
-    return root() + norvik_folder + path::kSeparator + "Bin";
-  }
+  // A DLLPath inside the NORVIK folder of this root.
+  std::string DllPath() const { return root() + "NORVIK" + path::kSeparator + "Bin"; }
 
  private:
   std::filesystem::path path_;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 #include "api/cls_random.h"
@@ -21,35 +20,6 @@ inline std::string P(std::string text) {
   }
   return text;
 }
-
-// Makes `dir` the current directory for its lifetime (an empty root puts the error log there).
-class CurrentDirectory {
- public:
-  explicit CurrentDirectory(const std::filesystem::path& dir)
-      : saved_(std::filesystem::current_path()) {
-    std::filesystem::current_path(dir);
-  }
-  ~CurrentDirectory() {
-    std::error_code ignored;
-    std::filesystem::current_path(saved_, ignored);
-  }
-  CurrentDirectory(const CurrentDirectory&) = delete;
-  CurrentDirectory& operator=(const CurrentDirectory&) = delete;
-
- private:
-  std::filesystem::path saved_;
-};
-
-// The events a host received.
-struct RecordingSink final : ClsRandomEvents {
-  void CSBOK() override { log += "CSBOK;"; }
-  void CurrentFieldTop(int16_t Top) override {
-    log += "CurrentFieldTop " + std::to_string(Top) + ";";
-  }
-  void Cancel() override { log += "Cancel;"; }
-  void ViewSampleCheque() override { log += "ViewSampleCheque;"; }
-  std::string log;
-};
 
 // One component state on the headless services, with a scripted modal driver and the
 // post-office-box words that class initialisation would split into the store.

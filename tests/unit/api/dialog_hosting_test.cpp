@@ -14,7 +14,16 @@
 namespace nvrandom::testing {
 namespace {
 
-using forms::Application;
+// The events a host received.
+struct RecordingSink final : ClsRandomEvents {
+  void CSBOK() override { log += "CSBOK;"; }
+  void CurrentFieldTop(int16_t Top) override {
+    log += "CurrentFieldTop " + std::to_string(Top) + ";";
+  }
+  void Cancel() override { log += "Cancel;"; }
+  void ViewSampleCheque() override { log += "ViewSampleCheque;"; }
+  std::string log;
+};
 
 std::vector<forms::Form*> OpenDialogs(Host& h) {
   std::vector<forms::Form*> dialogs;

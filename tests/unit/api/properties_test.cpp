@@ -88,7 +88,6 @@ TEST(Properties, DllPathDerivesTheInstallationRoot) {
       {P("/a/NORVIK/b/NORVIK/c"), P("/a/")},
       {P("/NORVIKSOFT/x"), P("/")},  // the name is matched as a prefix
       {P("NORVIK/x"), ""},           // no separator before it
-      {"", ""},
       {P("/\xFF\xFE/NORVIK/b"), P("/\xFF\xFE/")},
       {P("/" + long_folder + "/NORVIK/b"), P("/" + long_folder + "/")},
   };

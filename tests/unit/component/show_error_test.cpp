@@ -14,11 +14,29 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// Makes `dir` the current directory for its lifetime (an empty root puts the error log there).
+class CurrentDirectory {
+ public:
+  explicit CurrentDirectory(const std::filesystem::path& dir)
+      : saved_(std::filesystem::current_path()) {
+    std::filesystem::current_path(dir);
+  }
+  ~CurrentDirectory() {
+    std::error_code ignored;
+    std::filesystem::current_path(saved_, ignored);
+  }
+  CurrentDirectory(const CurrentDirectory&) = delete;
+  CurrentDirectory& operator=(const CurrentDirectory&) = delete;
+
+ private:
+  std::filesystem::path saved_;
+};
+
 // A host whose installation root is a fresh folder, where error.log and the trace go.
 class ShowErrorTest : public ::testing::Test {
  protected:
   ShowErrorTest() { h.ctx.store.gstrInstallRoot = root.root(); }
-  std::string Log() const { return ReadFile(root.dir() / "error.log"); }
+  std::string Log() const { return ReadFile(root.path() / "error.log"); }
 
   TempFolder root;
   Host h;
@@ -30,7 +48,7 @@ TEST_F(ShowErrorTest, ShowsTheMessageAndLogsOneLine) {
   for (const auto& [title, caption] :
        {std::pair{"", "NVRandom"}, {"   ", "NVRandom"}, {"Biller", "Biller"}}) {
     SCOPED_TRACE(std::string("title '") + title + "'");
-    fs::remove(root.dir() / "error.log");
+    fs::remove(root.path() / "error.log");
     h.boxes.shown.clear();
     ShowError(h.ctx, 5, "D", "P", false, title);
     ASSERT_EQ(h.boxes.shown.size(), 1U);
@@ -59,23 +77,23 @@ TEST_F(ShowErrorTest, SilentReportsAreLoggedAndLinesAppend) {
 // The log cannot be written (its name is taken by a folder): the box has been shown and the
 // failure is not reported again. Without a root the log lies in the current directory.
 TEST_F(ShowErrorTest, LogPlaceAndFailures) {
-  fs::create_directory(root.dir() / "error.log");
+  fs::create_directory(root.path() / "error.log");
   EXPECT_NO_THROW(ShowError(h.ctx, 5, "D", "P"));
   EXPECT_EQ(h.boxes.shown.size(), 1U);
 
   TempFolder cwd_root;
-  const CurrentDirectory cwd(cwd_root.dir());
+  const CurrentDirectory cwd(cwd_root.path());
   h.ctx.store.gstrInstallRoot.clear();
   ShowError(h.ctx, 5, "D", "P", true);
-  EXPECT_EQ(ReadFile(cwd_root.dir() / "error.log"), h.now + ",NVRandom, , ,5,\"D\",\"P\"\r\n");
+  EXPECT_EQ(ReadFile(cwd_root.path() / "error.log"), h.now + ",NVRandom, , ,5,\"D\",\"P\"\r\n");
 }
 
 // When tracing, the report first writes its trace entry, which spans two lines of the file.
 TEST_F(ShowErrorTest, TraceEntrySpansTwoLines) {
-  fs::create_directory(root.dir() / "Norvik");
+  fs::create_directory(root.path() / "Norvik");
   h.ctx.store.PlayByPlayEnabled = -1;
   ShowError(h.ctx, 5, "D", "P", true);
-  EXPECT_EQ(ReadFile(root.dir() / "Norvik" / "PBP.txt"),
+  EXPECT_EQ(ReadFile(root.path() / "Norvik" / "PBP.txt"),
             h.now + " NVRANDOM - Random - ShowError D\r\nLastOP=P\r\n");
 }
 

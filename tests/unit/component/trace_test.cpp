@@ -21,13 +21,13 @@ TEST(Trace, LineFormatAndPlace) {
   for (const char* folder : {"Norvik", "norvik"}) {
     SCOPED_TRACE(folder);
     TempFolder root;
-    fs::create_directory(root.dir() / folder);
+    fs::create_directory(root.path() / folder);
     Host h;
     ClsRandom cls(h.ctx);
     cls.PlayByPlayEnabled(-1);
     cls.DLLPath(root.DllPath());
     cls.PayeeName("ACME");
-    EXPECT_EQ(ReadFile(root.dir() / folder / "PBP.txt"),
+    EXPECT_EQ(ReadFile(root.path() / folder / "PBP.txt"),
               h.now + " NVRANDOM - ClsRandom - Let PayeeName\r\n");
     EXPECT_EQ(TraceFilePath(h.ctx),
               root.root() + path::kSeparator + folder + path::kSeparator + "PBP.txt");
@@ -56,7 +56,7 @@ TEST(Trace, WriteFailuresAreSwallowed) {
   for (const Case& row : cases) {
     SCOPED_TRACE(row.what);
     TempFolder root;
-    row.prepare(root.dir());
+    row.prepare(root.path());
     Host h;
     ClsRandom cls(h.ctx);
     cls.PlayByPlayEnabled(-1);
@@ -65,7 +65,7 @@ TEST(Trace, WriteFailuresAreSwallowed) {
     EXPECT_NO_THROW(cls.PayeeName("ACME"));
     EXPECT_EQ(h.ctx.store.PayeeName, "ACME");
     std::error_code ignored;
-    fs::permissions(root.dir() / "Norvik", fs::perms::owner_all, ignored);
+    fs::permissions(root.path() / "Norvik", fs::perms::owner_all, ignored);
   }
 }
 
@@ -78,9 +78,9 @@ TEST(Trace, AFolderCreatedLaterIsFound) {
   cls.PlayByPlayEnabled(-1);
   cls.DLLPath(root.DllPath());
   cls.PayeeName("lost");
-  fs::create_directory(root.dir() / "NORVIK");
+  fs::create_directory(root.path() / "NORVIK");
   cls.PayeeCity("kept");
-  EXPECT_EQ(ReadFile(root.dir() / "NORVIK" / "PBP.txt"),
+  EXPECT_EQ(ReadFile(root.path() / "NORVIK" / "PBP.txt"),
             h.now + " NVRANDOM - ClsRandom - Let PayeeCity\r\n");
 }
 

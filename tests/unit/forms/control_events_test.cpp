@@ -41,25 +41,6 @@ TEST(ControlEvents, ValueFromCodeFiresClick) {
   }
 }
 
-// Option buttons form one group per container: selecting one clears the others of its frame
-// (without clicking them) and leaves the groups of other frames alone.
-TEST(ControlEvents, OptionButtonsAreExclusiveWithinTheirContainer) {
-  Harness h;
-  forms::Control& a = h.C("optA");
-  forms::Control& b = h.C("optB");
-  forms::Control& c = h.C("optC");
-  int a_clicks = 0;
-  a.events.Click = [&] { ++a_clicks; };
-  a.SetValue(-1);
-  c.SetValue(-1);
-  EXPECT_EQ(a.Value(), -1) << "an option of another frame cleared this one";
-  b.SetValue(-1);
-  EXPECT_EQ(a.Value(), 0);
-  EXPECT_EQ(b.Value(), -1);
-  EXPECT_EQ(c.Value(), -1);
-  EXPECT_EQ(a_clicks, 1) << "clearing an option must not click it";
-}
-
 // Control arrays are looked up by name and index; a wrong index or a missing name raises the
 // platform's errors instead of handing back some other control.
 TEST(ControlEvents, ControlArraysAreLookedUpByIndex) {

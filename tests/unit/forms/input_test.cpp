@@ -28,7 +28,6 @@ void LogEvents(forms::Control& c, Log& log) {
   c.events.KeyUp = [&log](int16_t& k, int16_t&) { log.push_back("KeyUp " + std::to_string(k)); };
   c.events.Change = [&log] { log.push_back("Change"); };
   c.events.Click = [&log] { log.push_back("Click"); };
-  c.events.DblClick = [&log] { log.push_back("DblClick"); };
 }
 
 Act TypeText(const char* s) {
@@ -60,7 +59,6 @@ TEST(Input, OnePhysicalKeyFiresEachEventOnce) {
        PressKeyDown('V', 2),
        {"KeyDown 86", "KeyPress 22", "Change", "KeyUp 86"},
        "aPd"},
-      {"Backspace", PressKey(8), {"KeyDown 8", "KeyPress 8", "Change", "KeyUp 8"}, "ad"},
       {"an arrow", PressKeyDown(forms::keys::kKeyLeft, 0), {"KeyDown 37", "KeyUp 37"}, "abcd"},
   };
   for (const Case& row : cases) {
@@ -77,18 +75,6 @@ TEST(Input, OnePhysicalKeyFiresEachEventOnce) {
     EXPECT_EQ(log, row.events);
     EXPECT_EQ(code.Text(), row.text);
   }
-}
-
-// A key zeroed in KeyDown types nothing: no KeyPress, no edit. (The dialogs' paste guards rely
-// on it; their fields' own filters refuse the paste character too, so no scenario shows it.)
-TEST(Input, AKeyRefusedInKeyDownTypesNothing) {
-  Harness h;
-  h.form->Show();
-  forms::Control& code = h.C("txtCode");
-  code.events.KeyDown = [](int16_t& k, int16_t&) { k = k == 'Q' ? 0 : k; };
-  code.events.KeyPress = [](int16_t& k) { EXPECT_NE(k, 'q'); };
-  forms::user::Type(code, "aqb");
-  EXPECT_EQ(code.Text(), "ab");
 }
 
 // A form with KeyPreview sees each key first (KeyDown, then KeyPress), and what it does to the
@@ -122,14 +108,10 @@ TEST(Input, EditingActsOnTheSelectionWithinMaxLength) {
     const char* after;
     int caret;
   };
-  const auto paste = [](const char* s) {
-    return [s](forms::Control& c) { forms::user::Paste(c, s); };
-  };
   const char* e5 = "\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9";
   const Case cases[] = {
       {"MaxLength counts characters", "", 0, 0,
        TypeText("\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9x"), e5, 5},
-      {"pasting replaces the selection, then is cut", "abcde", 1, 2, paste("wxyz"), "awxde", 3},
       {"a full field refuses a key", "abcde", 2, 0, TypeText("z"), "abcde", 2},
       {"a full field takes a key over a selection", "abcde", 4, 1, TypeText("z"), "abcdz", 5},
       {"typing over a selection the character it holds", "ab", 0, 1, TypeText("a"), "ab", 1},
@@ -238,23 +220,6 @@ TEST(Input, ListsFollowTypingAndChoices) {
     forms::user::Pick(list, "Two");
     EXPECT_EQ(log, events) << name;
     EXPECT_EQ(list.Text(), "Two") << name;
-  }
-}
-
-// A double click is a Click, then the second press: DblClick. (Buttons and check boxes, which have
-// no DblClick, take a second Click: the views' tests.)
-TEST(Input, ADoubleClickIsAClickThenDblClickOrASecondClick) {
-  for (const auto& [name, events] :
-       {std::pair{"txtCode", Log{"Click", "DblClick"}}, {"optA", Log{"Click", "DblClick"}}}) {
-    Harness h;
-    h.form->Show();
-    forms::Control& c = h.C(name);
-    Log log;
-    LogEvents(c, log);
-    forms::user::Click(c);
-    forms::user::DoubleClick(c);
-    EXPECT_EQ(log, events) << name;
-    EXPECT_EQ(c.Value(), c.kind() == K::kOptionButton ? -1 : 0) << name;
   }
 }
 

@@ -20,7 +20,8 @@ std::string Repeat(std::string_view unit, size_t size) {
 }
 
 // Every check gives one of its defined answers and reports no error, whatever it is given: texts
-// of a mebibyte, past any fuzzer's length. Each text is built when its row runs.
+// of a mebibyte, past any fuzzer's length (the fuzzers hold the same checks to the same ranges on
+// short inputs, the empty one included). Each text is built when its row runs.
 TEST(HostileInput, EveryCheckAnswersWithinItsRange) {
   const struct {
     const char* name;
@@ -28,13 +29,11 @@ TEST(HostileInput, EveryCheckAnswersWithinItsRange) {
     size_t size;
     std::string_view tail = {};
   } rows[] = {
-      {"letters", "A", kMebibyte},
       {"digits", "0123456789", kMebibyte},
       {"blanks", " ", kMebibyte},
       {"not UTF-8", "\x80\xFF\xC3", kMebibyte},
       {"NULs", std::string_view("a\0b", 3), kMebibyte},
       {"e-mail-like", "a.", kMebibyte, "@example.com"},
-      {"empty", "", 0},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
