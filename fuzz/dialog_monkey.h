@@ -92,7 +92,6 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
     const std::shared_ptr<forms::Form> keep = form.shared_from_this();
     ++modal_depth_;
     if (in_ != nullptr && check_ != nullptr && modal_depth_ <= kMaxModalDepth) {
-      ++modal_visits_;
       const std::function<void()>& check = *check_;
       while (Shown(form) && Step(*in_, check)) {
       }
@@ -137,8 +136,6 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
   }
 
   size_t actions() const { return actions_; }
-  // Modal dialogs that took actions from the input.
-  size_t modal_visits() const { return modal_visits_; }
 
  private:
   using Masks = std::map<forms::Control*, std::pair<bool, std::string>>;
@@ -295,7 +292,6 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
   size_t actions_ = 0;
   // Shared with the wrapped buttons, which may outlive the monkey.
   std::shared_ptr<size_t> presses_ = std::make_shared<size_t>(0);
-  size_t modal_visits_ = 0;
   int modal_depth_ = 0;
   // The input and checks of the action under way, for a modal dialog it opens.
   ByteReader* in_ = nullptr;
