@@ -67,8 +67,6 @@ class ForeignBankWatch final : public forms::FormObserver {
       before_ = ForeignBank(store_);
     } else if (event == forms::FormEvent::kUnloaded && before_) {
       const bool changed = ForeignBank(store_) != *before_;
-      Log("foreign bank dialog %s, fields %s\n", bank->OKClicked() ? "accepted" : "not accepted",
-          changed ? "changed" : "unchanged");
       if (!bank->OKClicked() && changed) {
         Violated("the foreign bank fields changed though the foreign bank dialog was not accepted");
       }

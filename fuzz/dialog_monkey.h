@@ -44,13 +44,6 @@ class ByteReader {
   std::abort();
 }
 
-// NVRANDOM_MONKEY_LOG=1 tells each action, to read back how an input failed.
-template <typename... Args>
-void Log(const char* format, Args... args) {
-  static const bool log = std::getenv("NVRANDOM_MONKEY_LOG") != nullptr;
-  if (log) std::fprintf(stderr, format, args...);
-}
-
 class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver {
  public:
   // Modal dialogs nest at most this deep; a deeper one is closed at once.
@@ -98,9 +91,7 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
   void RunModal(forms::Form& form) override {
     const std::shared_ptr<forms::Form> keep = form.shared_from_this();
     ++modal_depth_;
-    Log("modal %s opened (depth %d)\n", form.Name().c_str(), modal_depth_);
     if (in_ != nullptr && check_ != nullptr && modal_depth_ <= kMaxModalDepth) {
-      ++modal_visits_;
       const std::function<void()>& check = *check_;
       while (Shown(form) && Step(*in_, check)) {
       }
@@ -110,7 +101,6 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
       if (cancel != nullptr && app_.TakesInput(*cancel)) forms::user::Click(*cancel);
     }
     if (Shown(form)) form.Unload(forms::unload_mode::kCode);
-    Log("modal %s closed\n", form.Name().c_str());
     --modal_depth_;
   }
 
@@ -146,8 +136,6 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
   }
 
   size_t actions() const { return actions_; }
-  // Modal dialogs that took actions from the input.
-  size_t modal_visits() const { return modal_visits_; }
 
  private:
   using Masks = std::map<forms::Control*, std::pair<bool, std::string>>;
@@ -184,9 +172,6 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
     const uint8_t op = in.Next();
     forms::Control* control = Pick(form, in);
     if (control == nullptr) return;
-    const forms::Control* focused = app_.Focused();
-    Log("action %d on %s.%s (focus %s)\n", op % 16, form.Name().c_str(), control->Name().c_str(),
-        focused != nullptr ? focused->Name().c_str() : "-");
     namespace user = forms::user;
     switch (op % 16) {
       case 0:
@@ -307,7 +292,6 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
   size_t actions_ = 0;
   // Shared with the wrapped buttons, which may outlive the monkey.
   std::shared_ptr<size_t> presses_ = std::make_shared<size_t>(0);
-  size_t modal_visits_ = 0;
   int modal_depth_ = 0;
   // The input and checks of the action under way, for a modal dialog it opens.
   ByteReader* in_ = nullptr;

@@ -286,13 +286,6 @@ class ViewInputTest : public QObject {
     QVERIFY(shows("optOne", QPalette::WindowText, forms::colors::kWindowText));
   }
 
-  void theCloseBoxAsksTheModel() {
-    QPointer<FormWindow> window = &Window();
-    window->close();
-    QVERIFY(!form_->IsLoaded());
-    QTRY_VERIFY(window.isNull());  // deleted once its input was over
-  }
-
   void aDestroyedHostParentTakesTheWindowAndAShowMakesANewOne() {
     form_->Unload();
     auto parent = std::make_unique<QWidget>();

@@ -10,16 +10,9 @@
 #include <cstdio>
 #include <memory>
 
+#include "../biller_windows.h"
 #include "api/cls_random.h"
-#include "app/thread_context.h"
-#include "component/context.h"
 #include "demo_samples.h"
-#include "form_window.h"
-#include "forms/application.h"
-#include "forms/form.h"
-#include "installation_tree.h"
-#include "qt_integration.h"
-#include "qt_view.h"
 
 namespace {
 
@@ -54,15 +47,11 @@ class CloseWatch final : public QObject {
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
-  nvrandom::scenario::InstallationTree tree;
-  nvrandom::qt::Integration integration;
+  const nvrandom::qt::BillerWindows windows;
   nvrandom::ClsRandom biller;
-  nvrandom::demo::LoadSample(biller, "business", tree.install());
+  nvrandom::demo::LoadSample(biller, "business", windows.install());
   biller.ShowForm_Remote();
-  nvrandom::qt::FormWindow* window = nullptr;
-  for (const auto& form : nvrandom::app::ThreadContext().forms().LoadedForms()) {
-    if (form->Name() == "frmRandomInfo") window = integration.view().WindowOf(*form);
-  }
+  nvrandom::qt::FormWindow* window = windows.WindowOf("frmRandomInfo");
   if (window == nullptr) return 1;
   CloseWatch watch(*window);
   window->installEventFilter(&watch);
