@@ -15,6 +15,7 @@
 #include "com/com_error.h"
 #include "com/com_ids.h"
 #include "com/com_values.h"
+#include "com/inproc_server.h"
 #include "com/snapshot_enumerator.h"
 #include "platform/win32/com_handles.h"
 
@@ -147,7 +148,7 @@ HRESULT CheckArguments(DISPID id, WORD flags, const DISPPARAMS& params) {
   return S_OK;
 }
 
-class ClsRandomObject final : public _ClsRandom,
+class ClsRandomObject final : public TypeInfoDispatch<_ClsRandom>,
                               public IProvideClassInfo2,
                               public ISupportErrorInfo,
                               public IConnectionPointContainer {
@@ -160,7 +161,7 @@ class ClsRandomObject final : public _ClsRandom,
   ClsRandomObject(const ClsRandomObject&) = delete;
   ClsRandomObject& operator=(const ClsRandomObject&) = delete;
 
-  HRESULT Init() { return ModuleTypeInfo(IID__ClsRandom, type_info_.put()); }
+  HRESULT Init() { return ServerTypeInfo(IID__ClsRandom, type_info_.put()); }
 
   // IUnknown
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
@@ -187,34 +188,14 @@ class ClsRandomObject final : public _ClsRandom,
     return left;
   }
 
-  // IDispatch, through the type library.
-  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
-    if (count == nullptr) return E_POINTER;
-    *count = 1;
-    return S_OK;
-  }
-  STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** out) override {
-    if (out == nullptr) return E_POINTER;
-    *out = nullptr;
-    if (index != 0) return DISP_E_BADINDEX;
-    type_info_->AddRef();
-    *out = type_info_.get();
-    return S_OK;
-  }
-  STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
-    if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-    return ::DispGetIDsOfNames(type_info_.get(), names, count, ids);
-  }
-  STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
-                      EXCEPINFO* error, UINT* arg_error) override {
-    if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-    if (params == nullptr) return E_INVALIDARG;
-    if (const HRESULT hr = CheckArguments(id, flags, *params); FAILED(hr)) return hr;
-    ::SetErrorInfo(0, nullptr);
-    const ComPtr<ITypeInfo> type_info = type_info_;
+  // IDispatch, through the type library, with the arguments checked first.
+  STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* params,
+                      VARIANT* result, EXCEPINFO* error, UINT* arg_error) override {
+    if (iid == IID_NULL && params != nullptr) {
+      if (const HRESULT hr = CheckArguments(id, flags, *params); FAILED(hr)) return hr;
+    }
     const KeepAlive keep(*this);
-    return type_info->Invoke(static_cast<_ClsRandom*>(this), id, flags, params, result, error,
-                             arg_error);
+    return TypeInfoDispatch::Invoke(id, iid, locale, flags, params, result, error, arg_error);
   }
 
   // _ClsRandom, generated from the member table.
@@ -258,7 +239,7 @@ class ClsRandomObject final : public _ClsRandom,
 
   // IProvideClassInfo2
   STDMETHODIMP GetClassInfo(ITypeInfo** out) override {
-    return ModuleTypeInfo(CLSID_ClsRandom, out);
+    return ServerTypeInfo(CLSID_ClsRandom, out);
   }
   STDMETHODIMP GetGUID(DWORD kind, GUID* guid) override {
     if (guid == nullptr) return E_POINTER;
@@ -308,7 +289,6 @@ class ClsRandomObject final : public _ClsRandom,
   };
 
   std::atomic<ULONG> references_{1};
-  ComPtr<ITypeInfo> type_info_;
   EventPoint events_;
   ClsRandom cls_;
 };
