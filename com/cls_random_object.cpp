@@ -148,45 +148,18 @@ HRESULT CheckArguments(DISPID id, WORD flags, const DISPPARAMS& params) {
   return S_OK;
 }
 
-class ClsRandomObject final : public TypeInfoDispatch<_ClsRandom>,
+class ClsRandomObject final : public ServerObject<_ClsRandom, IID__ClsRandom>,
                               public IProvideClassInfo2,
-                              public ISupportErrorInfo,
                               public IConnectionPointContainer {
  public:
-  ClsRandomObject() : events_(*this) {
-    AddModuleReference();
-    cls_.Advise(events_);
-  }
-  ~ClsRandomObject() { ReleaseModuleReference(); }
-  ClsRandomObject(const ClsRandomObject&) = delete;
-  ClsRandomObject& operator=(const ClsRandomObject&) = delete;
+  ClsRandomObject() : events_(*this) { cls_.Advise(events_); }
 
-  HRESULT Init() { return ServerTypeInfo(IID__ClsRandom, type_info_.put()); }
-
-  // IUnknown
+  // IUnknown, the one of every interface.
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
-    if (out == nullptr) return E_POINTER;
-    if (iid == IID_IUnknown || iid == IID_IDispatch || iid == IID__ClsRandom) {
-      *out = static_cast<_ClsRandom*>(this);
-    } else if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2) {
-      *out = static_cast<IProvideClassInfo2*>(this);
-    } else if (iid == IID_ISupportErrorInfo) {
-      *out = static_cast<ISupportErrorInfo*>(this);
-    } else if (iid == IID_IConnectionPointContainer) {
-      *out = static_cast<IConnectionPointContainer*>(this);
-    } else {
-      *out = nullptr;
-      return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
+    return ServerObject::QueryInterface(iid, out);
   }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ServerObject::AddRef(); }
+  STDMETHODIMP_(ULONG) Release() override { return ServerObject::Release(); }
 
   // IDispatch, through the type library, with the arguments checked first.
   STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* params,
@@ -249,11 +222,6 @@ class ClsRandomObject final : public TypeInfoDispatch<_ClsRandom>,
     return S_OK;
   }
 
-  // ISupportErrorInfo
-  STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override {
-    return iid == IID__ClsRandom ? S_OK : S_FALSE;
-  }
-
   // IConnectionPointContainer, with the one outgoing interface's point.
   STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints** out) override {
     if (out == nullptr) return E_POINTER;
@@ -288,25 +256,24 @@ class ClsRandomObject final : public TypeInfoDispatch<_ClsRandom>,
     ClsRandomObject& object_;
   };
 
-  std::atomic<ULONG> references_{1};
+  void* OtherInterface(REFIID iid) override {
+    if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2) {
+      return static_cast<IProvideClassInfo2*>(this);
+    }
+    return iid == IID_IConnectionPointContainer ? static_cast<IConnectionPointContainer*>(this)
+                                                : nullptr;
+  }
+
   EventPoint events_;
   ClsRandom cls_;
 };
 
 }  // namespace
 
-HRESULT CreateClsRandomObject(IUnknown* outer, REFIID iid, void** out) {
-  if (out == nullptr) return E_POINTER;
-  *out = nullptr;
-  if (outer != nullptr) return CLASS_E_NOAGGREGATION;
-  HRESULT hr = S_OK;
+HRESULT CreateClsRandomObject(REFIID iid, void** out) {
   ClsRandomObject* object = nullptr;
   const HRESULT created = Guarded([&] { object = new ClsRandomObject(); });
-  if (FAILED(created)) return created;
-  hr = object->Init();
-  if (SUCCEEDED(hr)) hr = object->QueryInterface(iid, out);
-  object->Release();
-  return hr;
+  return FAILED(created) ? created : ClsRandomObject::HandOut(object, iid, out);
 }
 
 }  // namespace nvrandom::com

@@ -85,9 +85,9 @@ inline void SetServerErrorInfo(const std::string& description, const wchar_t* so
   if (SUCCEEDED(create.As(info))) ::SetErrorInfo(0, info.get());
 }
 
-// The class factory of a server's one class: `Create(outer, iid, out)` makes an object. The
-// factory is static; its references and locks keep the module loaded.
-template <HRESULT (*Create)(IUnknown*, REFIID, void**)>
+// The class factory of a server's one class: `Create(iid, out)` makes an object for the caller.
+// The factory is static; its references and locks keep the module loaded.
+template <HRESULT (*Create)(REFIID, void**)>
 class ClassFactory final : public IClassFactory {
  public:
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
@@ -109,7 +109,9 @@ class ClassFactory final : public IClassFactory {
     return 1;
   }
   STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
-    return Create(outer, iid, out);
+    if (out == nullptr) return E_POINTER;
+    *out = nullptr;
+    return outer != nullptr ? CLASS_E_NOAGGREGATION : Create(iid, out);
   }
   STDMETHODIMP LockServer(BOOL lock) override {
     if (lock) {
@@ -122,7 +124,7 @@ class ClassFactory final : public IClassFactory {
 };
 
 // DllGetClassObject for a server of the one class `served`.
-template <HRESULT (*Create)(IUnknown*, REFIID, void**)>
+template <HRESULT (*Create)(REFIID, void**)>
 HRESULT GetServerClassObject(REFCLSID asked, REFCLSID served, REFIID iid, void** out) {
   if (out == nullptr) return E_POINTER;
   *out = nullptr;
@@ -164,6 +166,57 @@ class TypeInfoDispatch : public Dual {
 
  protected:
   ComPtr<ITypeInfo> type_info_;
+};
+
+// An object of the server with the dual interface `Dual` (`dual_iid`): IDispatch through the
+// type library, rich errors, its references, and the module kept loaded while it lives.
+// QueryInterface answers IUnknown, IDispatch, the dual interface, ISupportErrorInfo and whatever
+// OtherInterface gives.
+template <typename Dual, const IID& dual_iid>
+class ServerObject : public TypeInfoDispatch<Dual>, public ISupportErrorInfo {
+ public:
+  ServerObject() { AddModuleReference(); }
+  virtual ~ServerObject() { ReleaseModuleReference(); }
+  ServerObject(const ServerObject&) = delete;
+  ServerObject& operator=(const ServerObject&) = delete;
+
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    if (out == nullptr) return E_POINTER;
+    if (iid == IID_IUnknown || iid == IID_IDispatch || iid == dual_iid) {
+      *out = static_cast<Dual*>(this);
+    } else if (iid == IID_ISupportErrorInfo) {
+      *out = static_cast<ISupportErrorInfo*>(this);
+    } else {
+      *out = OtherInterface(iid);
+      if (*out == nullptr) return E_NOINTERFACE;
+    }
+    AddRef();
+    return S_OK;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
+  STDMETHODIMP_(ULONG) Release() override {
+    const ULONG left = --references_;
+    if (left == 0) delete this;
+    return left;
+  }
+  STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override {
+    return iid == dual_iid ? S_OK : S_FALSE;
+  }
+
+  // Hands a new object (whose one reference goes here) to the caller as `iid`, once its type
+  // information is loaded.
+  static HRESULT HandOut(ServerObject* object, REFIID iid, void** out) {
+    HRESULT hr = ServerTypeInfo(dual_iid, object->type_info_.put());
+    if (SUCCEEDED(hr)) hr = object->QueryInterface(iid, out);
+    object->Release();
+    return hr;
+  }
+
+ protected:
+  virtual void* OtherInterface(REFIID) { return nullptr; }
+
+ private:
+  std::atomic<ULONG> references_{1};
 };
 
 // The registry keys of a class served by this module, under <root>\Software\Classes: the class

@@ -17,11 +17,11 @@ namespace nvrandom::com {
 namespace {
 
 // The Windows services and the Win32 view of this thread's dialogs, before its first object.
-HRESULT CreateComposed(IUnknown* outer, REFIID iid, void** out) {
+HRESULT CreateComposed(REFIID iid, void** out) {
   const HRESULT composed = Guarded([] {
     win32::InstallWin32Composition({&AddModuleReference, &ReleaseModuleReference});
   });
-  return FAILED(composed) ? composed : CreateClsRandomObject(outer, iid, out);
+  return FAILED(composed) ? composed : CreateClsRandomObject(iid, out);
 }
 
 // The per-user type library registration of oleaut32 (Vista and later), which mingw-w64's headers

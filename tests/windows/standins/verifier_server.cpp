@@ -48,40 +48,8 @@ std::string_view FirstOf(std::string_view text, short length) {
   return length > 0 ? text.substr(0, static_cast<size_t>(length)) : text;
 }
 
-class AccountVerifierObject final : public TypeInfoDispatch<_AccountVerifier>,
-                                    public ISupportErrorInfo {
+class AccountVerifierObject final : public ServerObject<_AccountVerifier, IID__AccountVerifier> {
  public:
-  AccountVerifierObject() { AddModuleReference(); }
-  ~AccountVerifierObject() { ReleaseModuleReference(); }
-  AccountVerifierObject(const AccountVerifierObject&) = delete;
-  AccountVerifierObject& operator=(const AccountVerifierObject&) = delete;
-
-  HRESULT Init() { return ServerTypeInfo(IID__AccountVerifier, type_info_.put()); }
-
-  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
-    if (out == nullptr) return E_POINTER;
-    if (iid == IID_IUnknown || iid == IID_IDispatch || iid == IID__AccountVerifier) {
-      *out = static_cast<_AccountVerifier*>(this);
-    } else if (iid == IID_ISupportErrorInfo) {
-      *out = static_cast<ISupportErrorInfo*>(this);
-    } else {
-      *out = nullptr;
-      return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
-  }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
-
-  STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override {
-    return iid == IID__AccountVerifier ? S_OK : S_FALSE;
-  }
-
   // The session's values.
   STDMETHODIMP put_PlayByPlay(VARIANT_BOOL) override { return S_OK; }
   STDMETHODIMP put_BusinessPIN(BSTR value) override { return Keep(business_pin_, value); }
@@ -180,23 +148,15 @@ class AccountVerifierObject final : public TypeInfoDispatch<_AccountVerifier>,
     return "The verifier refused the account: " + outcome.message + Reference();
   }
 
-  std::atomic<ULONG> references_{1};
   std::string business_pin_, search_id_, access_number_, program_version_, search_url_,
       session_number_, data_path_, request_source_;
   short bank_id_length_ = 0;
   short account_length_ = 0;
 };
 
-HRESULT CreateVerifier(IUnknown* outer, REFIID iid, void** out) {
-  if (out == nullptr) return E_POINTER;
-  *out = nullptr;
-  if (outer != nullptr) return CLASS_E_NOAGGREGATION;
+HRESULT CreateVerifier(REFIID iid, void** out) {
   auto* object = new (std::nothrow) AccountVerifierObject();
-  if (object == nullptr) return E_OUTOFMEMORY;
-  HRESULT hr = object->Init();
-  if (SUCCEEDED(hr)) hr = object->QueryInterface(iid, out);
-  object->Release();
-  return hr;
+  return object == nullptr ? E_OUTOFMEMORY : AccountVerifierObject::HandOut(object, iid, out);
 }
 
 // An installer's registration: for the machine (where Wine's COM looks), else for the user.
