@@ -15,6 +15,7 @@
 #include "com/com_error.h"
 #include "com/com_ids.h"
 #include "com/com_values.h"
+#include "com/inproc_server.h"
 #include "com/snapshot_enumerator.h"
 #include "platform/win32/com_handles.h"
 
@@ -147,74 +148,27 @@ HRESULT CheckArguments(DISPID id, WORD flags, const DISPPARAMS& params) {
   return S_OK;
 }
 
-class ClsRandomObject final : public _ClsRandom,
+class ClsRandomObject final : public ServerObject<_ClsRandom, IID__ClsRandom>,
                               public IProvideClassInfo2,
-                              public ISupportErrorInfo,
                               public IConnectionPointContainer {
  public:
-  ClsRandomObject() : events_(*this) {
-    AddModuleReference();
-    cls_.Advise(events_);
-  }
-  ~ClsRandomObject() { ReleaseModuleReference(); }
-  ClsRandomObject(const ClsRandomObject&) = delete;
-  ClsRandomObject& operator=(const ClsRandomObject&) = delete;
+  ClsRandomObject() : events_(*this) { cls_.Advise(events_); }
 
-  HRESULT Init() { return ModuleTypeInfo(IID__ClsRandom, type_info_.put()); }
-
-  // IUnknown
+  // IUnknown, the one of every interface.
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
-    if (out == nullptr) return E_POINTER;
-    if (iid == IID_IUnknown || iid == IID_IDispatch || iid == IID__ClsRandom) {
-      *out = static_cast<_ClsRandom*>(this);
-    } else if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2) {
-      *out = static_cast<IProvideClassInfo2*>(this);
-    } else if (iid == IID_ISupportErrorInfo) {
-      *out = static_cast<ISupportErrorInfo*>(this);
-    } else if (iid == IID_IConnectionPointContainer) {
-      *out = static_cast<IConnectionPointContainer*>(this);
-    } else {
-      *out = nullptr;
-      return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
+    return ServerObject::QueryInterface(iid, out);
   }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ServerObject::AddRef(); }
+  STDMETHODIMP_(ULONG) Release() override { return ServerObject::Release(); }
 
-  // IDispatch, through the type library.
-  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
-    if (count == nullptr) return E_POINTER;
-    *count = 1;
-    return S_OK;
-  }
-  STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** out) override {
-    if (out == nullptr) return E_POINTER;
-    *out = nullptr;
-    if (index != 0) return DISP_E_BADINDEX;
-    type_info_->AddRef();
-    *out = type_info_.get();
-    return S_OK;
-  }
-  STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
-    if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-    return ::DispGetIDsOfNames(type_info_.get(), names, count, ids);
-  }
-  STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
-                      EXCEPINFO* error, UINT* arg_error) override {
-    if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-    if (params == nullptr) return E_INVALIDARG;
-    if (const HRESULT hr = CheckArguments(id, flags, *params); FAILED(hr)) return hr;
-    ::SetErrorInfo(0, nullptr);
-    const ComPtr<ITypeInfo> type_info = type_info_;
+  // IDispatch, through the type library, with the arguments checked first.
+  STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* params,
+                      VARIANT* result, EXCEPINFO* error, UINT* arg_error) override {
+    if (iid == IID_NULL && params != nullptr) {
+      if (const HRESULT hr = CheckArguments(id, flags, *params); FAILED(hr)) return hr;
+    }
     const KeepAlive keep(*this);
-    return type_info->Invoke(static_cast<_ClsRandom*>(this), id, flags, params, result, error,
-                             arg_error);
+    return TypeInfoDispatch::Invoke(id, iid, locale, flags, params, result, error, arg_error);
   }
 
   // _ClsRandom, generated from the member table.
@@ -258,7 +212,7 @@ class ClsRandomObject final : public _ClsRandom,
 
   // IProvideClassInfo2
   STDMETHODIMP GetClassInfo(ITypeInfo** out) override {
-    return ModuleTypeInfo(CLSID_ClsRandom, out);
+    return ServerTypeInfo(CLSID_ClsRandom, out);
   }
   STDMETHODIMP GetGUID(DWORD kind, GUID* guid) override {
     if (guid == nullptr) return E_POINTER;
@@ -266,11 +220,6 @@ class ClsRandomObject final : public _ClsRandom,
     if (kind != GUIDKIND_DEFAULT_SOURCE_DISP_IID) return E_INVALIDARG;
     *guid = DIID___ClsRandom;
     return S_OK;
-  }
-
-  // ISupportErrorInfo
-  STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override {
-    return iid == IID__ClsRandom ? S_OK : S_FALSE;
   }
 
   // IConnectionPointContainer, with the one outgoing interface's point.
@@ -307,26 +256,24 @@ class ClsRandomObject final : public _ClsRandom,
     ClsRandomObject& object_;
   };
 
-  std::atomic<ULONG> references_{1};
-  ComPtr<ITypeInfo> type_info_;
+  void* OtherInterface(REFIID iid) override {
+    if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2) {
+      return static_cast<IProvideClassInfo2*>(this);
+    }
+    return iid == IID_IConnectionPointContainer ? static_cast<IConnectionPointContainer*>(this)
+                                                : nullptr;
+  }
+
   EventPoint events_;
   ClsRandom cls_;
 };
 
 }  // namespace
 
-HRESULT CreateClsRandomObject(IUnknown* outer, REFIID iid, void** out) {
-  if (out == nullptr) return E_POINTER;
-  *out = nullptr;
-  if (outer != nullptr) return CLASS_E_NOAGGREGATION;
-  HRESULT hr = S_OK;
+HRESULT CreateClsRandomObject(REFIID iid, void** out) {
   ClsRandomObject* object = nullptr;
   const HRESULT created = Guarded([&] { object = new ClsRandomObject(); });
-  if (FAILED(created)) return created;
-  hr = object->Init();
-  if (SUCCEEDED(hr)) hr = object->QueryInterface(iid, out);
-  object->Release();
-  return hr;
+  return FAILED(created) ? created : ClsRandomObject::HandOut(object, iid, out);
 }
 
 }  // namespace nvrandom::com

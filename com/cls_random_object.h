@@ -7,6 +7,6 @@
 namespace nvrandom::com {
 
 // A new ClsRandom COM object on this thread's component state, answering `iid`.
-HRESULT CreateClsRandomObject(IUnknown* outer, REFIID iid, void** out);
+HRESULT CreateClsRandomObject(REFIID iid, void** out);
 
 }  // namespace nvrandom::com

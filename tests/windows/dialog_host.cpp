@@ -2,11 +2,14 @@
 // Defines the type library's GUIDs for this program.
 #include <initguid.h>
 
-#include <map>
-#include <optional>
+#include <sstream>
 #include <string_view>
 
 #include "NVRandom_h.h"
+#include "platform/win32/wide_text.h"
+#include "sample_billers.h"
+#include "scenario_line.h"
+#include "scenario_values.h"
 
 namespace nvrandom::com::test {
 
@@ -21,89 +24,34 @@ DWORD g_modal_deadline = 0;
 // How long a modal action may wait for its dialog.
 constexpr DWORD kModalLimit = 10000;
 
-const std::vector<HostValue> kInstallation = {
-    {L"Provpostalstr", L"ABTBCVMBRNBENLANSBNTXNUXONKONLONMONNONPPEUQCGQCHQCJSKSYTY"},
-    {L"IPCurrencyList", std::vector<const wchar_t*>{L"CAD", L"USD", L"EUR", L"GBP"}},
-    {L"CurrencyCodeFromMain", L"CAD"},
-    {L"DescCurrencyCodeFromMain", L"Canadian Dollar"},
-    {L"UserBankAcctPermission", short{-1}},
-    {L"Add", short{-1}},
-};
-
-const std::map<std::string_view, std::vector<HostValue>>& Samples() {
-  static const std::map<std::string_view, std::vector<HostValue>> samples = {
-      {"business",
-       {{L"PayeeIndBusnTag", L"2"},
-        {L"PayeeIndBussFlg", L" "},
-        {L"PayeeName", L"NORTHERN HYDRO LTD"},
-        {L"PayeeBillAccount", L"4417 1234 5678"},
-        {L"PayeeStreet", L"100 KING ST W"},
-        {L"PayeeCity", L"TORONTO"},
-        {L"PayeeProv", L"ON"},
-        {L"PayeeCountry", L"CA"},
-        {L"PayeePostal", L"M5X1A9"},
-        {L"PayeePhoneArea", L"416"},
-        {L"PayeePhoneNumber", L"5550100"},
-        {L"PayeeEmail", L"billing@example.com"},
-        {L"PayeeBusinessNum", L"046454286RT0001"},
-        {L"PayeeCurrency", L"CAD"}}},
-      {"individual",
-       {{L"PayeeIndBusnTag", L"1"},
-        {L"PayeeIndBussFlg", L"I"},
-        {L"PayeeName", L"JANE TREMBLAY"},
-        {L"PayeeBillAccount", L"RENT 12B"},
-        {L"PayeeEmail", L"jane.tremblay@example.com"},
-        {L"PayeeBankId", L"003"},
-        {L"PayeeBankTransit", L"00011"},
-        {L"PayeeBankAccount", L"1234567"},
-        {L"PayeeCurrency", L"CAD"}}},
-      {"us",
-       {{L"WhatKindOfBiller", L"U"},
-        {L"PayeeIndBusnTag", L"2"},
-        {L"PayeeIndBussFlg", L" "},
-        {L"PayeeName", L"LAKESHORE UTILITIES INC"},
-        {L"PayeeBillAccount", L"88-0042-17"},
-        {L"PayeeStreet", L"200 MAIN ST"},
-        {L"PayeeCity", L"BUFFALO"},
-        {L"PayeeProv", L"NY"},
-        {L"PayeeCountry", L"US"},
-        {L"PayeePostal", L"14202"},
-        {L"PayeePhoneArea", L"716"},
-        {L"PayeePhoneNumber", L"5550199"},
-        {L"PayeeEmail", L"ap@lakeshore.example.com"},
-        {L"PayeeBankTransit", L"021000021"},
-        {L"PayeeCurrency", L"USD"}}},
-      {"international",
-       {{L"InternationalPayment", short{-1}},
-        {L"IPBillerNameAcctExist", short{0}},
-        {L"PayeeIndBusnTag", L"2"},
-        {L"PayeeIndBussFlg", L" "},
-        {L"PayeeName", L"RHEIN TEXTIL GMBH"},
-        {L"PayeeBillAccount", L"DE-2024-7781"},
-        {L"PayeeStreet", L"HAUPTSTRASSE 12"},
-        {L"PayeeCity", L"KOELN"},
-        {L"PayeeCountry", L"DE"},
-        {L"PayeePostal", L"50667"},
-        {L"PayeePhoneCountryCode", L"49"},
-        {L"PayeeFXPhoneNumber", L"2215550123"},
-        {L"PayeeEmail", L"rechnung@example.de"},
-        {L"PayeeBusinessNum", L""},
-        {L"PayeeCurrency", L"EUR"},
-        {L"PayeeFXBankName", L"RHEINBANK AG"},
-        {L"PayeeFXBankAddress", L"BANKPLATZ 1"},
-        {L"PayeeFXBankCity", L"KOELN"},
-        {L"PayeeFXBankCountry", L"DE"},
-        {L"PayeeFXBankAccount", L"DE89370400440532013000"},
-        {L"PayeeFXBankSwift", L"COBADEFFXXX"}}},
-  };
-  return samples;
-}
-
-DISPID IdOf(IDispatch& object, const wchar_t* name) {
-  DISPID id = DISPID_UNKNOWN;
-  auto* text = const_cast<LPOLESTR>(name);
-  object.GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id);
-  return id;
+// A host's value as the VARIANT a host passes for it: a text, a number, or an array of texts.
+void ToHostVariant(const Variant& value, VARIANT* out) {
+  if (const auto* text = std::get_if<std::string>(&value.value)) {
+    out->vt = VT_BSTR;
+    out->bstrVal = Bstr(wide::FromUtf8(*text)).detach();
+  } else if (const auto* number = std::get_if<int32_t>(&value.value)) {
+    out->vt = VT_I4;
+    out->lVal = *number;
+  } else if (const auto* array = std::get_if<StringArray>(&value.value)) {
+    SAFEARRAYBOUND bounds[2] = {};
+    for (int d = 0; d < array->dimensions(); ++d) {
+      bounds[d].cElements = static_cast<ULONG>(array->UBound(d + 1) - array->LBound(d + 1) + 1);
+      bounds[d].lLbound = array->LBound(d + 1);
+    }
+    out->vt = VT_ARRAY | VT_BSTR;
+    out->parray = ::SafeArrayCreate(VT_BSTR, static_cast<UINT>(array->dimensions()), bounds);
+    // Both keep the elements with the first index running fastest.
+    BSTR* items = nullptr;
+    ::SafeArrayAccessData(out->parray, reinterpret_cast<void**>(&items));
+    const int32_t last_column = array->dimensions() == 2 ? array->UBound(2) : 0;
+    for (int32_t j = array->dimensions() == 2 ? array->LBound(2) : 0; j <= last_column; ++j) {
+      for (int32_t i = array->LBound(1); i <= array->UBound(1); ++i) {
+        const std::string& item = array->dimensions() == 2 ? array->at(i, j) : array->at(i);
+        *items++ = Bstr(wide::FromUtf8(item)).detach();
+      }
+    }
+    ::SafeArrayUnaccessData(out->parray);
+  }
 }
 
 // Answers the message boxes of this thread with their default button, recording their texts: a
@@ -170,16 +118,8 @@ BOOL CALLBACK MatchForm(HWND hwnd, LPARAM data) {
 
 }  // namespace
 
-const std::vector<HostValue>& InstallationValues() {
-  return kInstallation;
-}
-
-const std::vector<HostValue>& SampleBiller(std::string_view layout) {
-  return Samples().at(layout);
-}
-
 STDMETHODIMP RecordingSink::QueryInterface(REFIID iid, void** out) {
-  if (iid == IID_IUnknown || iid == IID_IDispatch || iid == DIID___ClsRandom) {
+  if (iid == IID_IUnknown || iid == IID_IDispatch || (iid == DIID___ClsRandom && !dispatch_only)) {
     *out = this;
     AddRef();
     return S_OK;
@@ -220,57 +160,62 @@ DialogHost::~DialogHost() {
   if (module_ != nullptr) ::FreeLibrary(module_);
 }
 
-ComPtr<IDispatch> DialogHost::Create(std::string_view layout) {
+ComPtr<IDispatch> DialogHost::Create(std::string_view sample) {
   ComPtr<IClassFactory> factory;
   ComPtr<IDispatch> object;
-  if (get_class_object_(CLSID_ClsRandom, IID_IClassFactory, factory.put_void()) != S_OK ||
+  if (GetClassObject(CLSID_ClsRandom, IID_IClassFactory, factory.put_void()) != S_OK ||
       factory->CreateInstance(nullptr, IID_IDispatch, object.put_void()) != S_OK) {
     return {};
   }
-  Let(*object, {L"DLLPath", g_install.c_str()});
-  for (const HostValue& value : kInstallation) Let(*object, value);
-  for (const HostValue& value : SampleBiller(layout)) Let(*object, value);
+  for (const demo::SampleBiller& biller : demo::kSampleBillers) {
+    if (biller.name != sample) continue;
+    std::istringstream settings(std::string(demo::kHostSettings) + std::string(biller.settings));
+    for (std::string line; std::getline(settings, line);) {
+      if (FAILED(Let(*object, line))) return {};
+    }
+  }
   return object;
 }
 
-HRESULT DialogHost::Let(IDispatch& object, const HostValue& value) {
-  VARIANT argument{};
-  Bstr text;
-  std::optional<SafeArray> list;
-  if (const auto* s = std::get_if<const wchar_t*>(&value.value)) {
-    text = Bstr(std::wstring(*s));
-    argument.vt = VT_BSTR;
-    argument.bstrVal = text.get();
-  } else if (const auto* n = std::get_if<short>(&value.value)) {
-    argument.vt = VT_I2;
-    argument.iVal = *n;
-  } else {
-    const auto& items = std::get<std::vector<const wchar_t*>>(value.value);
-    SAFEARRAYBOUND bound{static_cast<ULONG>(items.size()), 0};
-    list.emplace(::SafeArrayCreate(VT_BSTR, 1, &bound));
-    for (LONG i = 0; i < static_cast<LONG>(items.size()); ++i) {
-      Bstr item{std::wstring(items[static_cast<size_t>(i)])};
-      ::SafeArrayPutElement(list->get(), &i, item.get());
-    }
-    argument.vt = VT_ARRAY | VT_BSTR;
-    argument.parray = list->get();
-  }
-  DISPID named = DISPID_PROPERTYPUT;
-  DISPPARAMS params{&argument, &named, 1, 1};
-  return object.Invoke(IdOf(object, value.name), IID_NULL, LOCALE_USER_DEFAULT,
-                       DISPATCH_PROPERTYPUT, &params, nullptr, nullptr, nullptr);
+DISPID Id(IDispatch& object, const wchar_t* name) {
+  DISPID id = DISPID_UNKNOWN;
+  auto* text = const_cast<LPOLESTR>(name);
+  object.GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id);
+  return id;
 }
 
-long DialogHost::Call(IDispatch& object, const wchar_t* method) {
+HRESULT Put(IDispatch& object, DISPID id, VARIANT value, EXCEPINFO* error) {
+  DISPID named = DISPID_PROPERTYPUT;
+  DISPPARAMS params{&value, &named, 1, 1};
+  return object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &params, nullptr,
+                       error, nullptr);
+}
+
+HRESULT Get(IDispatch& object, DISPID id, OwnedVariant& result) {
+  DISPPARAMS none{nullptr, nullptr, 0, 0};
+  return object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, result.put(),
+                       nullptr, nullptr);
+}
+
+HRESULT Let(IDispatch& object, std::string_view statement) {
+  const auto words = scenario::SplitWords(statement);
+  if (words.size() != 2) return E_INVALIDARG;
+  const std::string install = wide::ToUtf8(g_install);
+  OwnedVariant value;
+  ToHostVariant(scenario::HostValue(words[1], install, install), value.get());
+  return Put(object, Id(object, wide::FromUtf8(words[0].text).c_str()), *value.get());
+}
+
+long Call(IDispatch& object, const wchar_t* method) {
   DISPPARAMS none{nullptr, nullptr, 0, 0};
   OwnedVariant result;
-  const HRESULT hr = object.Invoke(IdOf(object, method), IID_NULL, LOCALE_USER_DEFAULT,
+  const HRESULT hr = object.Invoke(Id(object, method), IID_NULL, LOCALE_USER_DEFAULT,
                                    DISPATCH_METHOD, &none, result.put(), nullptr, nullptr);
   if (FAILED(hr)) return -1;
   return result.get()->vt == VT_I4 ? result.get()->lVal : 0;
 }
 
-DWORD DialogHost::Advise(IDispatch& object, RecordingSink& sink) {
+DWORD Advise(IDispatch& object, RecordingSink& sink) {
   ComPtr<IConnectionPointContainer> container;
   ComPtr<IConnectionPoint> point;
   DWORD cookie = 0;

@@ -1,8 +1,8 @@
 #pragma once
 
-// A host of NVRandom.dll's dialogs for the tests: the server loaded as COM loads it, objects
-// driven through IDispatch by name, a recording event sink, and a message pump with a time limit
-// in which the person's input is posted to the dialog's windows.
+// A host of NVRandom.dll for the tests: the server loaded as COM loads it, objects driven through
+// IDispatch by name, a recording event sink, and a message pump with a time limit in which the
+// person's input is posted to the dialog's windows.
 #include <windows.h>
 // windows.h first: the OLE headers use its types.
 #include <ocidl.h>
@@ -10,25 +10,16 @@
 
 #include <functional>
 #include <string>
-#include <variant>
+#include <string_view>
 #include <vector>
 
 #include "platform/win32/com_handles.h"
 
 namespace nvrandom::com::test {
 
-// One property a host sets: a text, a number, or a list of texts.
-struct HostValue {
-  const wchar_t* name;
-  std::variant<const wchar_t*, short, std::vector<const wchar_t*>> value;
-};
-
-// The sample billers of the four layouts, as a host sets them (after the installation values).
-const std::vector<HostValue>& InstallationValues();
-const std::vector<HostValue>& SampleBiller(std::string_view layout);
-
 // Events as the sink saw them: their DISPIDs in order ("1" CSBOK, "2" CurrentFieldTop, "3" Cancel,
-// "4" ViewSampleCheque) and each CurrentFieldTop's Top.
+// "4" ViewSampleCheque) and each CurrentFieldTop's Top. A dispatch-only sink answers IDispatch
+// but not the events' interface, as a script host's does.
 class RecordingSink final : public IDispatch {
  public:
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override;
@@ -40,6 +31,7 @@ class RecordingSink final : public IDispatch {
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* params, VARIANT*, EXCEPINFO*,
                       UINT*) override;
 
+  bool dispatch_only = false;
   ULONG references = 1;
   std::string events;
   std::vector<short> tops;
@@ -47,22 +39,21 @@ class RecordingSink final : public IDispatch {
 
 class DialogHost {
  public:
-  // Loads the server from the program's folder; `install` is the installation folder (DLLPath).
+  // Loads the server from the program's folder.
   DialogHost();
   ~DialogHost();
   DialogHost(const DialogHost&) = delete;
   DialogHost& operator=(const DialogHost&) = delete;
 
   bool loaded() const { return get_class_object_ != nullptr && can_unload_now_ != nullptr; }
+  HRESULT GetClassObject(REFCLSID clsid, REFIID iid, void** out) const {
+    return get_class_object_(clsid, iid, out);
+  }
   HRESULT CanUnloadNow() const { return can_unload_now_(); }
 
-  // A new object with the installation values and the sample biller of `layout` set.
-  ComPtr<IDispatch> Create(std::string_view layout);
-  static HRESULT Let(IDispatch& object, const HostValue& value);
-  // Calls a method without arguments; its Long result, or the failed HRESULT as -1.
-  static long Call(IDispatch& object, const wchar_t* method);
-  // Advises `sink` on the object's event connection point; the cookie (0 on failure).
-  static DWORD Advise(IDispatch& object, RecordingSink& sink);
+  // A new object; with a sample biller's name, the host settings and that biller set (the
+  // demo's samples).
+  ComPtr<IDispatch> Create(std::string_view sample = {});
 
   // Runs this thread's messages until `done` holds or `milliseconds` pass; false on time-out.
   // Message boxes that open meanwhile are answered with their default button and recorded.
@@ -81,6 +72,17 @@ class DialogHost {
   HRESULT(WINAPI* can_unload_now_)() = nullptr;
   UINT_PTR timer_ = 0;
 };
+
+// IDispatch by name, as a late-bound host calls it.
+DISPID Id(IDispatch& object, const wchar_t* name);
+HRESULT Put(IDispatch& object, DISPID id, VARIANT value, EXCEPINFO* error = nullptr);
+HRESULT Get(IDispatch& object, DISPID id, OwnedVariant& result);
+// A property set as a scenario file's `let` writes it: "PayeeName \"ACME\"", "FormStyle 2".
+HRESULT Let(IDispatch& object, std::string_view statement);
+// Calls a method without arguments; its Long result, or the failed HRESULT as -1.
+long Call(IDispatch& object, const wchar_t* method);
+// Advises `sink` on the object's event connection point; the cookie (0 on failure).
+DWORD Advise(IDispatch& object, RecordingSink& sink);
 
 // The installation folder the tests give DLLPath (set from the command line by main).
 extern std::wstring g_install;

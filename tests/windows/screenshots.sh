@@ -12,10 +12,9 @@ out=$build/screenshots
 rm -rf "$out"
 mkdir -p "$out"
 status=0
-xvfb-run -a -s "-screen 0 1280x1024x24" sh -c "
-  '$here/wine-prefix.sh' '$prefix' x11 &&
-  '$here/wine-run.sh' '$prefix' '$client' --gtest_filter='Screenshots.*' \
-    --install 'Z:$build/data' --screenshots 'Z:$out'" || status=$?
+NVRANDOM_WINE_X11=1 xvfb-run -a -s "-screen 0 1280x1024x24" \
+  "$here/wine-run.sh" "$prefix" "$client" --gtest_filter='Screenshots.*' \
+  --install "Z:$build/data" --screenshots "Z:$out" || status=$?
 # The prefix's Wine server must not outlive the X server it drew on.
 WINEPREFIX=$prefix wineserver -k 2>/dev/null || true
 [ "$status" -eq 0 ] || exit "$status"

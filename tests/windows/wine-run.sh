@@ -1,12 +1,36 @@
 #!/bin/sh
 # Runs a Windows program of the build under Wine in the build's own prefix, which is created on
-# first use.  Usage: wine-run.sh PREFIX PROGRAM [ARGUMENTS...]
+# first use (several tests may ask at the same time): no desktop graphics (dialogs run without an
+# X server), no Mono or Gecko installers. With NVRANDOM_WINE_X11=1 a new prefix draws on the X
+# display instead (for screenshots): windows neither managed nor decorated by the window manager,
+# so they look the same on any display.
+# Usage: [NVRANDOM_WINE_X11=1] wine-run.sh PREFIX PROGRAM [ARGUMENTS...]
 set -e
 prefix=$(realpath -m "$1")
 shift
-here=$(dirname "$0")
-"$here/wine-prefix.sh" "$prefix"
 export WINEPREFIX="$prefix" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+if [ ! -f "$prefix/.nvrandom-ready" ]; then
+  mkdir -p "$(dirname "$prefix")"
+  exec 9>"$prefix.lock"
+  flock 9
+  if [ ! -f "$prefix/.nvrandom-ready" ]; then
+    if ! command -v wine >/dev/null; then
+      echo "wine-run.sh: Wine is not installed (sudo apt-get install wine64)" >&2
+      exit 1
+    fi
+    wineboot -i >/dev/null 2>&1
+    if [ "$NVRANDOM_WINE_X11" = 1 ]; then
+      for value in Managed Decorated; do
+        wine reg add 'HKCU\Software\Wine\X11 Driver' /v $value /d N /f >/dev/null 2>&1
+      done
+    else
+      wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null 2>&1
+    fi
+    wineserver -w
+    touch "$prefix/.nvrandom-ready"
+  fi
+  exec 9>&-
+fi
 # One Wine server for the whole test run: starting it (and Wine's services) anew for every
 # program costs seconds each time.
 # Its services (started with the first program) must not hold the caller's output open, or

@@ -10,32 +10,21 @@
 // After initguid.h.
 #include "NVVerifier_h.h"
 
-#include <olectl.h>
-
 #include <atomic>
 #include <string>
 
-#include "platform/win32/class_registry.h"
-#include "platform/win32/com_handles.h"
-#include "platform/win32/module_file.h"
-#include "platform/win32/wide_text.h"
+#include "com/inproc_server.h"
 #include "verifier/bank_rules.h"
 
 namespace {
 
 namespace rules = nvrandom::verifier;
-using nvrandom::com::ComPtr;
+using namespace nvrandom::com;
 
 constexpr const wchar_t* kProgId = L"NVVerifier.AccountVerifier";
 constexpr int kPathNotFound = 76;
 
-HMODULE g_module = nullptr;
-std::atomic<long> g_references{0};
 std::atomic<int> g_search_ids{0};
-
-std::wstring ModulePath() {
-  return nvrandom::ModuleFileName(g_module);
-}
 
 std::string Utf8(BSTR text) {
   return nvrandom::wide::ToUtf8({text == nullptr ? L"" : text, ::SysStringLen(text)});
@@ -51,15 +40,7 @@ HRESULT SetText(BSTR* out, const std::string& text) {
 
 // A run-time error of the verifier, as a script's Err.Raise reports it.
 HRESULT RaiseError(int number, const std::string& description) {
-  ComPtr<ICreateErrorInfo> create;
-  if (SUCCEEDED(::CreateErrorInfo(create.put()))) {
-    const std::wstring text = nvrandom::wide::FromUtf8(description);
-    create->SetDescription(const_cast<LPOLESTR>(text.c_str()));
-    create->SetSource(const_cast<LPOLESTR>(kProgId));
-    create->SetGUID(IID__AccountVerifier);
-    ComPtr<IErrorInfo> info;
-    if (SUCCEEDED(create.As(info))) ::SetErrorInfo(0, info.get());
-  }
+  SetServerErrorInfo(description, kProgId, IID__AccountVerifier);
   return MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number);
 }
 
@@ -67,65 +48,8 @@ std::string_view FirstOf(std::string_view text, short length) {
   return length > 0 ? text.substr(0, static_cast<size_t>(length)) : text;
 }
 
-class AccountVerifierObject final : public _AccountVerifier, public ISupportErrorInfo {
+class AccountVerifierObject final : public ServerObject<_AccountVerifier, IID__AccountVerifier> {
  public:
-  AccountVerifierObject() { ++g_references; }
-  ~AccountVerifierObject() { --g_references; }
-  AccountVerifierObject(const AccountVerifierObject&) = delete;
-  AccountVerifierObject& operator=(const AccountVerifierObject&) = delete;
-
-  HRESULT Init() {
-    ComPtr<ITypeLib> library;
-    const HRESULT hr = ::LoadTypeLibEx(ModulePath().c_str(), REGKIND_NONE, library.put());
-    return FAILED(hr) ? hr : library->GetTypeInfoOfGuid(IID__AccountVerifier, type_info_.put());
-  }
-
-  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
-    if (out == nullptr) return E_POINTER;
-    if (iid == IID_IUnknown || iid == IID_IDispatch || iid == IID__AccountVerifier) {
-      *out = static_cast<_AccountVerifier*>(this);
-    } else if (iid == IID_ISupportErrorInfo) {
-      *out = static_cast<ISupportErrorInfo*>(this);
-    } else {
-      *out = nullptr;
-      return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
-  }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
-
-  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
-    if (count == nullptr) return E_POINTER;
-    *count = 1;
-    return S_OK;
-  }
-  STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** out) override {
-    if (out == nullptr) return E_POINTER;
-    *out = nullptr;
-    if (index != 0) return DISP_E_BADINDEX;
-    *out = ComPtr<ITypeInfo>(type_info_).detach();
-    return S_OK;
-  }
-  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
-    return ::DispGetIDsOfNames(type_info_.get(), names, count, ids);
-  }
-  STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
-                      EXCEPINFO* error, UINT* arg_error) override {
-    ::SetErrorInfo(0, nullptr);
-    return type_info_->Invoke(static_cast<_AccountVerifier*>(this), id, flags, params, result,
-                              error, arg_error);
-  }
-
-  STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override {
-    return iid == IID__AccountVerifier ? S_OK : S_FALSE;
-  }
-
   // The session's values.
   STDMETHODIMP put_PlayByPlay(VARIANT_BOOL) override { return S_OK; }
   STDMETHODIMP put_BusinessPIN(BSTR value) override { return Keep(business_pin_, value); }
@@ -224,111 +148,43 @@ class AccountVerifierObject final : public _AccountVerifier, public ISupportErro
     return "The verifier refused the account: " + outcome.message + Reference();
   }
 
-  std::atomic<ULONG> references_{1};
-  ComPtr<ITypeInfo> type_info_;
   std::string business_pin_, search_id_, access_number_, program_version_, search_url_,
       session_number_, data_path_, request_source_;
   short bank_id_length_ = 0;
   short account_length_ = 0;
 };
 
-class ClassFactory final : public IClassFactory {
- public:
-  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
-    if (out == nullptr) return E_POINTER;
-    if (iid == IID_IUnknown || iid == IID_IClassFactory) {
-      *out = static_cast<IClassFactory*>(this);
-      AddRef();
-      return S_OK;
-    }
-    *out = nullptr;
-    return E_NOINTERFACE;
-  }
-  // Static: its references keep the module loaded.
-  STDMETHODIMP_(ULONG) AddRef() override {
-    ++g_references;
-    return 2;
-  }
-  STDMETHODIMP_(ULONG) Release() override {
-    --g_references;
-    return 1;
-  }
-  STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
-    if (out == nullptr) return E_POINTER;
-    *out = nullptr;
-    if (outer != nullptr) return CLASS_E_NOAGGREGATION;
-    auto* object = new (std::nothrow) AccountVerifierObject();
-    if (object == nullptr) return E_OUTOFMEMORY;
-    HRESULT hr = object->Init();
-    if (SUCCEEDED(hr)) hr = object->QueryInterface(iid, out);
-    object->Release();
-    return hr;
-  }
-  STDMETHODIMP LockServer(BOOL lock) override {
-    if (lock) {
-      ++g_references;
-    } else {
-      --g_references;
-    }
-    return S_OK;
-  }
-};
-
-ClassFactory g_factory;
-
-using nvrandom::registry::GuidText;
+HRESULT CreateVerifier(REFIID iid, void** out) {
+  auto* object = new (std::nothrow) AccountVerifierObject();
+  return object == nullptr ? E_OUTOFMEMORY : AccountVerifierObject::HandOut(object, iid, out);
+}
 
 // An installer's registration: for the machine (where Wine's COM looks), else for the user.
-bool SetKey(HKEY root, const std::wstring& key, const wchar_t* name, const std::wstring& value) {
-  return nvrandom::registry::SetClassesValue(root, key, name, value);
-}
-
-bool Register(HKEY root) {
-  const std::wstring clsid = GuidText(CLSID_AccountVerifier);
-  const std::wstring key = L"CLSID\\" + clsid;
-  return SetKey(root, key, nullptr, L"AccountVerifier") &&
-         SetKey(root, key + L"\\InprocServer32", nullptr, ModulePath()) &&
-         SetKey(root, key + L"\\InprocServer32", L"ThreadingModel", L"Apartment") &&
-         SetKey(root, key + L"\\ProgID", nullptr, kProgId) &&
-         SetKey(root, kProgId, nullptr, L"AccountVerifier") &&
-         SetKey(root, std::wstring(kProgId) + L"\\CLSID", nullptr, clsid);
-}
-
-void Unregister(HKEY root) {
-  nvrandom::registry::DeleteClassesKey(root, L"CLSID\\" + GuidText(CLSID_AccountVerifier));
-  nvrandom::registry::DeleteClassesKey(root, kProgId);
-}
+const ServerClass kServerClass{CLSID_AccountVerifier, L"AccountVerifier", kProgId, nullptr,
+                               nullptr};
 
 }  // namespace
 
 extern "C" {
 
-BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
-  if (reason == DLL_PROCESS_ATTACH) {
-    g_module = instance;
-    ::DisableThreadLibraryCalls(instance);
-  }
-  return TRUE;
-}
-
 HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID clsid, REFIID iid, void** out) {
-  if (out == nullptr) return E_POINTER;
-  *out = nullptr;
-  if (clsid != CLSID_AccountVerifier) return CLASS_E_CLASSNOTAVAILABLE;
-  return g_factory.QueryInterface(iid, out);
+  return GetServerClassObject<&CreateVerifier>(clsid, CLSID_AccountVerifier, iid, out);
 }
 
 HRESULT STDAPICALLTYPE DllCanUnloadNow() {
-  return g_references == 0 ? S_OK : S_FALSE;
+  return CanUnloadServer();
 }
 
 HRESULT STDAPICALLTYPE DllRegisterServer() {
-  return Register(HKEY_LOCAL_MACHINE) || Register(HKEY_CURRENT_USER) ? S_OK : SELFREG_E_CLASS;
+  return RegisterServerClass(HKEY_LOCAL_MACHINE, kServerClass) ||
+                 RegisterServerClass(HKEY_CURRENT_USER, kServerClass)
+             ? S_OK
+             : SELFREG_E_CLASS;
 }
 
 HRESULT STDAPICALLTYPE DllUnregisterServer() {
-  Unregister(HKEY_LOCAL_MACHINE);
-  Unregister(HKEY_CURRENT_USER);
+  UnregisterServerClass(HKEY_LOCAL_MACHINE, kServerClass);
+  UnregisterServerClass(HKEY_CURRENT_USER, kServerClass);
   return S_OK;
 }
 
