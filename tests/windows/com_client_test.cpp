@@ -132,51 +132,27 @@ TEST_F(ComClient, BadCallsGetTheirOwnResult) {
   two[0].vt = two[1].vt = VT_I2;
   DISPID put = DISPID_PROPERTYPUT;
   DISPID wrong_name = 5;
+  const DISPID let_only = Id(*object, L"DLLPath");
   struct Row {
-    const char* what;
     DISPID id;
     const IID& iid;
     WORD flags;
     DISPPARAMS params;
     HRESULT expected;
   };
+  // No such member, an interface id, a read of a Let-only property, two values for a put, an
+  // argument for a method without any; only a put's value may be named, and only as such.
   const Row rows[] = {
-      {"no such member", 999, IID_NULL, DISPATCH_PROPERTYGET, {}, DISP_E_MEMBERNOTFOUND},
-      {"an interface id", 7, IID_IDispatch, DISPATCH_PROPERTYGET, {}, DISP_E_UNKNOWNINTERFACE},
-      {"read of a Let-only property",
-       Id(*object, L"DLLPath"),
-       IID_NULL,
-       DISPATCH_PROPERTYGET,
-       {},
-       DISP_E_MEMBERNOTFOUND},
-      {"two values for a put",
-       1,
-       IID_NULL,
-       DISPATCH_PROPERTYPUT,
-       {two, &put, 2, 1},
-       DISP_E_BADPARAMCOUNT},
-      {"an argument for a method without any",
-       35,
-       IID_NULL,
-       DISPATCH_METHOD,
-       {two, nullptr, 1, 0},
-       DISP_E_BADPARAMCOUNT},
-      // Only a property put's value may be named, and only as such.
-      {"a put's value misnamed",
-       1,
-       IID_NULL,
-       DISPATCH_PROPERTYPUT,
-       {two, &wrong_name, 1, 1},
-       DISP_E_PARAMNOTFOUND},
-      {"a named argument for a method",
-       3,
-       IID_NULL,
-       DISPATCH_METHOD,
-       {two, &wrong_name, 1, 1},
-       DISP_E_NONAMEDARGS},
+      {999, IID_NULL, DISPATCH_PROPERTYGET, {}, DISP_E_MEMBERNOTFOUND},
+      {7, IID_IDispatch, DISPATCH_PROPERTYGET, {}, DISP_E_UNKNOWNINTERFACE},
+      {let_only, IID_NULL, DISPATCH_PROPERTYGET, {}, DISP_E_MEMBERNOTFOUND},
+      {1, IID_NULL, DISPATCH_PROPERTYPUT, {two, &put, 2, 1}, DISP_E_BADPARAMCOUNT},
+      {35, IID_NULL, DISPATCH_METHOD, {two, nullptr, 1, 0}, DISP_E_BADPARAMCOUNT},
+      {1, IID_NULL, DISPATCH_PROPERTYPUT, {two, &wrong_name, 1, 1}, DISP_E_PARAMNOTFOUND},
+      {3, IID_NULL, DISPATCH_METHOD, {two, &wrong_name, 1, 1}, DISP_E_NONAMEDARGS},
   };
   for (const Row& row : rows) {
-    SCOPED_TRACE(row.what);
+    SCOPED_TRACE(testing::Message() << "member " << row.id << ", flags " << row.flags);
     DISPPARAMS params = row.params;
     OwnedVariant result;
     EXPECT_EQ(object->Invoke(row.id, row.iid, LOCALE_USER_DEFAULT, row.flags, &params, result.put(),
