@@ -128,37 +128,37 @@ TEST_F(ComClient, TextPropertiesConvertTheirValues) {
 TEST_F(ComClient, BadCallsGetTheirOwnResult) {
   ComPtr<IDispatch> object = host_.Create();
   ASSERT_TRUE(object);
-  OwnedVariant result;
-  DISPPARAMS none{nullptr, nullptr, 0, 0};
-  EXPECT_EQ(object->Invoke(999, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
-                           result.put(), nullptr, nullptr),
-            DISP_E_MEMBERNOTFOUND);
-  EXPECT_EQ(object->Invoke(7, IID_IDispatch, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
-                           result.put(), nullptr, nullptr),
-            DISP_E_UNKNOWNINTERFACE);
-  // A Let-only property cannot be read.
-  EXPECT_EQ(Get(*object, Id(*object, L"DLLPath"), result), DISP_E_MEMBERNOTFOUND);
-  // Two arguments for a property put; an argument for a method without any.
   VARIANT two[2] = {};
   two[0].vt = two[1].vt = VT_I2;
-  DISPID named = DISPID_PROPERTYPUT;
-  DISPPARAMS too_many{two, &named, 2, 1};
-  EXPECT_EQ(object->Invoke(1, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &too_many,
-                           nullptr, nullptr, nullptr),
-            DISP_E_BADPARAMCOUNT);
-  DISPPARAMS one_positional{two, nullptr, 1, 0};
-  EXPECT_EQ(object->Invoke(35, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &one_positional,
-                           nullptr, nullptr, nullptr),
-            DISP_E_BADPARAMCOUNT);
-  // Named arguments: only a property put's value may be named, and only as such.
+  DISPID put = DISPID_PROPERTYPUT;
   DISPID wrong_name = 5;
-  DISPPARAMS named_value{two, &wrong_name, 1, 1};
-  EXPECT_EQ(object->Invoke(1, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &named_value,
-                           nullptr, nullptr, nullptr),
-            DISP_E_PARAMNOTFOUND);
-  EXPECT_EQ(object->Invoke(3, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &named_value, nullptr,
-                           nullptr, nullptr),
-            DISP_E_NONAMEDARGS);
+  const DISPID let_only = Id(*object, L"DLLPath");
+  struct Row {
+    DISPID id;
+    const IID& iid;
+    WORD flags;
+    DISPPARAMS params;
+    HRESULT expected;
+  };
+  // No such member, an interface id, a read of a Let-only property, two values for a put, an
+  // argument for a method without any; only a put's value may be named, and only as such.
+  const Row rows[] = {
+      {999, IID_NULL, DISPATCH_PROPERTYGET, {}, DISP_E_MEMBERNOTFOUND},
+      {7, IID_IDispatch, DISPATCH_PROPERTYGET, {}, DISP_E_UNKNOWNINTERFACE},
+      {let_only, IID_NULL, DISPATCH_PROPERTYGET, {}, DISP_E_MEMBERNOTFOUND},
+      {1, IID_NULL, DISPATCH_PROPERTYPUT, {two, &put, 2, 1}, DISP_E_BADPARAMCOUNT},
+      {35, IID_NULL, DISPATCH_METHOD, {two, nullptr, 1, 0}, DISP_E_BADPARAMCOUNT},
+      {1, IID_NULL, DISPATCH_PROPERTYPUT, {two, &wrong_name, 1, 1}, DISP_E_PARAMNOTFOUND},
+      {3, IID_NULL, DISPATCH_METHOD, {two, &wrong_name, 1, 1}, DISP_E_NONAMEDARGS},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(testing::Message() << "member " << row.id << ", flags " << row.flags);
+    DISPPARAMS params = row.params;
+    OwnedVariant result;
+    EXPECT_EQ(object->Invoke(row.id, row.iid, LOCALE_USER_DEFAULT, row.flags, &params, result.put(),
+                             nullptr, nullptr),
+              row.expected);
+  }
   auto* unknown_name = const_cast<LPOLESTR>(L"NoSuchMember");
   DISPID id = 0;
   EXPECT_EQ(object->GetIDsOfNames(IID_NULL, &unknown_name, 1, LOCALE_USER_DEFAULT, &id),

@@ -67,10 +67,14 @@ BOOL CALLBACK AnswerMessageBox(HWND hwnd, LPARAM) {
   return TRUE;
 }
 
-BOOL CALLBACK CloseForm(HWND hwnd, LPARAM) {
+bool IsForm(HWND hwnd) {
   wchar_t window_class[32] = {};
   ::GetClassNameW(hwnd, window_class, 32);
-  if (std::wstring_view(window_class) == L"NVRandomForm") ::PostMessageW(hwnd, WM_CLOSE, 0, 0);
+  return std::wstring_view(window_class) == L"NVRandomForm";
+}
+
+BOOL CALLBACK CloseForm(HWND hwnd, LPARAM) {
+  if (IsForm(hwnd)) ::PostMessageW(hwnd, WM_CLOSE, 0, 0);
   return TRUE;
 }
 
@@ -110,10 +114,7 @@ BOOL CALLBACK MatchCaption(HWND hwnd, LPARAM data) {
 }
 
 BOOL CALLBACK MatchForm(HWND hwnd, LPARAM data) {
-  wchar_t window_class[32] = {};
-  ::GetClassNameW(hwnd, window_class, 32);
-  if (std::wstring_view(window_class) != L"NVRandomForm") return TRUE;
-  return MatchCaption(hwnd, data);
+  return IsForm(hwnd) ? MatchCaption(hwnd, data) : TRUE;
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <set>
 
 namespace nvrandom::com::test {
 
@@ -16,6 +15,35 @@ int SystemDpi() {
   ::ReleaseDC(nullptr, screen);
   return dpi;
 }
+
+namespace {
+
+// A capture's pixels as a 32-bit top-down DIB, for the screen copy and the file alike.
+BITMAPINFOHEADER DibHeader(const Capture& capture) {
+  BITMAPINFOHEADER header{};
+  header.biSize = sizeof(header);
+  header.biWidth = capture.width;
+  header.biHeight = -capture.height;  // rows top first
+  header.biPlanes = 1;
+  header.biBitCount = 32;
+  header.biCompression = BI_RGB;
+  return header;
+}
+
+std::map<uint32_t, size_t> ColourCounts(const Capture& capture) {
+  std::map<uint32_t, size_t> counts;
+  for (const uint32_t p : capture.pixels) ++counts[p];
+  return counts;
+}
+
+// The colour most of the picture has, and how many pixels have it.
+std::pair<uint32_t, size_t> MostCommon(const std::map<uint32_t, size_t>& counts) {
+  const auto most = std::ranges::max_element(counts, {}, [](const auto& c) { return c.second; });
+  if (most == counts.end()) return {0, 0};
+  return *most;
+}
+
+}  // namespace
 
 Capture CaptureClient(HWND window, DialogHost& host) {
   ::RedrawWindow(window, nullptr, nullptr,
@@ -33,12 +61,7 @@ Capture CaptureClient(HWND window, DialogHost& host) {
   const HDC screen = ::GetDC(nullptr);
   const HDC memory = ::CreateCompatibleDC(screen);
   BITMAPINFO info{};
-  info.bmiHeader.biSize = sizeof(info.bmiHeader);
-  info.bmiHeader.biWidth = capture.width;
-  info.bmiHeader.biHeight = -capture.height;
-  info.bmiHeader.biPlanes = 1;
-  info.bmiHeader.biBitCount = 32;
-  info.bmiHeader.biCompression = BI_RGB;
+  info.bmiHeader = DibHeader(capture);
   void* bits = nullptr;
   const HBITMAP bitmap = ::CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
   const HGDIOBJ old = ::SelectObject(memory, bitmap);
@@ -53,24 +76,6 @@ Capture CaptureClient(HWND window, DialogHost& host) {
   ::ReleaseDC(nullptr, screen);
   return capture;
 }
-
-namespace {
-
-std::map<uint32_t, size_t> ColourCounts(const Capture& capture) {
-  std::map<uint32_t, size_t> counts;
-  for (const uint32_t p : capture.pixels) ++counts[p];
-  return counts;
-}
-
-std::pair<uint32_t, size_t> MostCommon(const std::map<uint32_t, size_t>& counts) {
-  const auto most =
-      std::max_element(counts.begin(), counts.end(),
-                       [](const auto& a, const auto& b) { return a.second < b.second; });
-  if (most == counts.end()) return {0, 0};
-  return {most->first, most->second};
-}
-
-}  // namespace
 
 uint32_t Background(const Capture& capture) {
   return MostCommon(ColourCounts(capture)).first;
@@ -94,13 +99,7 @@ bool WriteBmp(const Capture& capture, const std::wstring& path) {
   file.bfType = 0x4D42;  // "BM"
   file.bfOffBits = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER);
   file.bfSize = file.bfOffBits + image_bytes;
-  BITMAPINFOHEADER header{};
-  header.biSize = sizeof(header);
-  header.biWidth = capture.width;
-  header.biHeight = -capture.height;  // rows top first
-  header.biPlanes = 1;
-  header.biBitCount = 32;
-  header.biCompression = BI_RGB;
+  BITMAPINFOHEADER header = DibHeader(capture);
   header.biSizeImage = image_bytes;
   std::ofstream out(std::filesystem::path(path), std::ios::binary);
   out.write(reinterpret_cast<const char*>(&file), sizeof(file));

@@ -9,13 +9,6 @@ install = Replace(WScript.Arguments(1), "/", "\")
 
 Set o = CreateObject("NVRandom.ClsRandom")
 o.DLLPath = install
-o.Provpostalstr = "ABTBCVMBRNBENLANSBNTXNUXONKONLONMONNONPPEUQCGQCHQCJSKSYTY"
-o.PayeeName = "ACME HYDRO"
-o.PayeeStreet = "1 MAIN ST"
-o.PayeeCity = "OTTAWA"
-o.PayeeProv = "ON"
-o.PayeeCountry = "CA"
-o.PayeeCurrency = "CAD"
 
 Set shell = CreateObject("WScript.Shell")
 shell.Run """" & helper & """ ""Norvik - Biller / Funds Transfer Information"" Cancel 20", 0, False
