@@ -1,5 +1,5 @@
 // What a view mirrors: every change of a property is one notification naming it, and observers
-// may come and go while being notified. The lifecycle stages are in lifecycle_test.cpp.
+// may come and go while being notified. The lifecycle stages are the views' tests' concern.
 #include <gtest/gtest.h>
 
 #include <functional>
