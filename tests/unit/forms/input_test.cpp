@@ -60,8 +60,7 @@ TEST(Input, OnePhysicalKeyFiresEachEventOnce) {
   };
   for (const Case& row : cases) {
     SCOPED_TRACE(row.what);
-    Harness h;
-    h.form->Show();
+    ShownHarness h;
     forms::Control& code = h.C("txtCode");
     code.SetText("abcd");
     forms::user::Select(code, 1, 2);
@@ -86,8 +85,7 @@ TEST(Input, KeyPreviewGivesTheFormTheKeyFirst) {
   forms::user::Type(code, "xz");
   EXPECT_EQ(h.form->log, (Log{"Form_KeyDown 88", "KeyDown 88", "Form_KeyPress 120", "KeyPress 121",
                               "Change", "Form_KeyDown 90", "KeyDown 90", "Form_KeyPress 122"}));
-  Harness plain;
-  plain.form->Show();
+  ShownHarness plain;
   forms::user::Type(plain.C("txtCode"), "x");
   EXPECT_TRUE(plain.form->log.empty()) << "a form without KeyPreview saw the key";
 }
@@ -118,8 +116,7 @@ TEST(Input, EditingActsOnTheSelectionWithinMaxLength) {
   };
   for (const Case& row : cases) {
     SCOPED_TRACE(row.what);
-    Harness h;
-    h.form->Show();
+    ShownHarness h;
     forms::Control& name = h.C("txtName");
     name.SetText(row.before);
     name.SetSelStart(row.sel_start);
@@ -150,8 +147,7 @@ TEST(Input, EditingActsOnTheSelectionWithinMaxLength) {
 // A modal dialog runs its own input loop: keys its own handlers send arrive while it is open, not
 // after the key that opened it. (Keys sent before it opened: fxbank_acceptance.scn.)
 TEST(Input, KeysSentInAModalDialogArriveWhileItIsOpen) {
-  Harness h;
-  h.form->Show();
+  ShownHarness h;
   forms::Control& code = h.C("txtCode");
   code.events.KeyPress = [&](int16_t& k) {
     if (k == 13) h.child->Show(true);
@@ -177,8 +173,7 @@ TEST(Input, SendKeysNotation) {
 
 TEST(Input, AMaskedBoxCopiesNothing) {
   for (const int16_t key : {forms::keys::kKeyC, forms::keys::kKeyX}) {
-    Harness h;
-    h.form->Show();
+    ShownHarness h;
     forms::Control& code = h.C("txtCode");
     code.SetText("secret");
     code.SetPasswordChar("*");
@@ -194,8 +189,7 @@ TEST(Input, AMaskedBoxCopiesNothing) {
 // box's choice fires Click alone, a data list's Change then Click.
 TEST(Input, ListsFollowTypingAndChoices) {
   for (const auto& [typed, row, bound] : {std::tuple{"france", 1, "FR"}, {"Can", -1, ""}}) {
-    Harness h;
-    h.form->Show();
+    ShownHarness h;
     forms::Control& list = h.C("dlCountry");
     list.SetBoundColumn(1);
     list.SetRows({{"Canada", "CA"}, {"France", "FR"}});
@@ -207,8 +201,7 @@ TEST(Input, ListsFollowTypingAndChoices) {
   }
   for (const auto& [name, events] :
        {std::pair{"cboKind", Log{"Click"}}, {"dlCountry", Log{"Change", "Click"}}}) {
-    Harness h;
-    h.form->Show();
+    ShownHarness h;
     forms::Control& list = h.C(name);
     list.SetRows({{"One"}, {"Two"}});
     Log log;

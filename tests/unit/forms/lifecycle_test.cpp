@@ -20,8 +20,7 @@ bool IsLoadedInApp(const Harness& h, const forms::Form& form) {
 TEST(Lifecycle, CancelKeepsTheFormLoaded) {
   for (const bool in_query : {true, false}) {
     SCOPED_TRACE(in_query ? "QueryUnload" : "Unload");
-    Harness h;
-    h.form->Show();
+    ShownHarness h;
     if (in_query) {
       h.form->on_query_unload = [](int16_t& cancel, int16_t) { cancel = 1; };
     } else {

@@ -50,8 +50,7 @@ TEST(ModelNotifications, SettersNameTheirPropertiesOnce) {
       {"optB", [](C& c) { c.SetValue(-1); }, {"optB.Value"}},
   };
   for (const SetterCase& k : cases) {
-    Harness h;
-    h.form->Show();
+    ShownHarness h;
     Mirror mirror;
     h.app.AddObserver(&mirror);
     forms::Control& c = h.C(k.control);

@@ -112,4 +112,9 @@ struct Harness {
   std::shared_ptr<TestForm> child = NewForm(kChildForm);
 };
 
+// The harness with its test form shown, so that its controls can take the focus and keys.
+struct ShownHarness : Harness {
+  ShownHarness() { form->Show(); }
+};
+
 }  // namespace nvrandom::forms_test
