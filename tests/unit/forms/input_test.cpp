@@ -1,6 +1,8 @@
 // The runtime's input path below what a scenario sees: the order of a key's events, editing at
 // the selection within MaxLength, what a list choice fires. What handlers do to keys, and sent
-// keys, are in runtime_input.scn and biller_entry_rules.scn.
+// keys, are in runtime_input.scn and biller_entry_rules.scn; keys a handler refuses in KeyDown in
+// biller_accept_us_bank.scn and fxbank_handover.scn; double clicks, which no dialog handles, in
+// the views' tests.
 #include <gtest/gtest.h>
 
 #include <functional>
