@@ -15,6 +15,9 @@ struct ValueStep {
   int clicks;  // running total
 };
 
+// Option buttons exclusive within their container, and cleared without a Click: the biller
+// layout scenarios and the views' tests.
+
 // Setting Value from code fires Click as a mouse click would (the dialogs' option handlers
 // re-lay the form on it), but only for a new value; an option button only when selected.
 TEST(ControlEvents, ValueFromCodeFiresClick) {

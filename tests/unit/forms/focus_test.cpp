@@ -23,8 +23,7 @@ void LogFocus(Harness& h, std::vector<std::string>& log, std::initializer_list<c
 // (That a LostFocus handler sees the control receiving the focus, and may send the focus on, the
 // dialogs' currency, country and bank country checks show in their scenarios.)
 TEST(Focus, LostFocusComesBeforeGotFocus) {
-  Harness h;
-  h.form->Show();
+  ShownHarness h;
   EXPECT_EQ(h.form->ActiveControl(), &h.C("txtName"));
   std::vector<std::string> log;
   LogFocus(h, log, {"txtName", "txtCode"});
@@ -37,8 +36,7 @@ TEST(Focus, LostFocusComesBeforeGotFocus) {
 TEST(Focus, ATargetThatGoesAwayDuringTheMovePassesItOn) {
   for (const bool nothing_left : {false, true}) {
     SCOPED_TRACE(nothing_left ? "nothing left" : "one left");
-    Harness h;
-    h.form->Show();
+    ShownHarness h;
     h.C("txtName").events.LostFocus = [&] {
       h.C("chkFlag").SetEnabled(false);
       h.app.SetFocus(h.C("txtInner"));
@@ -80,8 +78,7 @@ TEST(Focus, RequestsForUnavailableControlsAreRefused) {
   };
   for (const Removal& row : removals) {
     SCOPED_TRACE(row.what);
-    Harness h;
-    h.form->Show();
+    ShownHarness h;
     forms::Control& name = h.C("txtName");
     int lost = 0;
     name.events.LostFocus = [&] { ++lost; };
@@ -125,8 +122,7 @@ TEST(Focus, FocusLeavesAControlThatGoesAway) {
   };
   for (const auto& [removal, focused_after] : cases) {
     SCOPED_TRACE(removal.what);
-    Harness h;
-    h.form->Show();
+    ShownHarness h;
     forms::Control& code = h.C("txtCode");
     forms::user::Focus(code);
     int lost = 0;
@@ -151,8 +147,7 @@ TEST(Focus, FocusLeavesAControlThatGoesAway) {
 // Disabling or hiding a frame takes its children out of reach without touching their own
 // Enabled and Visible, so that enabling the frame again restores each child as it was.
 TEST(Focus, AFrameKeepsItsChildrensOwnState) {
-  Harness h;
-  h.form->Show();
+  ShownHarness h;
   forms::Control& frame = h.C("fraMain");
   forms::Control& code = h.C("txtCode");
   forms::Control& check = h.C("chkFlag");

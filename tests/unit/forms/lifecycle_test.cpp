@@ -20,8 +20,7 @@ bool IsLoadedInApp(const Harness& h, const forms::Form& form) {
 TEST(Lifecycle, CancelKeepsTheFormLoaded) {
   for (const bool in_query : {true, false}) {
     SCOPED_TRACE(in_query ? "QueryUnload" : "Unload");
-    Harness h;
-    h.form->Show();
+    ShownHarness h;
     if (in_query) {
       h.form->on_query_unload = [](int16_t& cancel, int16_t) { cancel = 1; };
     } else {
@@ -74,62 +73,6 @@ TEST(Lifecycle, ModalShowReturnsWhenTheFormIsUnloadedOrHidden) {
     if (row.query_unload != nullptr) {
       EXPECT_EQ(h.form->log, (std::vector<std::string>{row.query_unload, "Unload"}));
     }
-  }
-}
-
-// Touching a control loads the form (once); Find does not. Loading again after an unload starts
-// from the design, not from what the last display left.
-TEST(Lifecycle, FormLoadsOnFirstTouchOfAControl) {
-  Harness h;
-  EXPECT_NE(h.form->Find("txtCode"), nullptr);
-  EXPECT_EQ(h.form->loads, 0);
-  EXPECT_FALSE(h.form->IsLoaded());
-  h.C("txtCode").SetText("changed");
-  h.C("txtName");
-  EXPECT_EQ(h.form->loads, 1);
-  EXPECT_TRUE(IsLoadedInApp(h, *h.form));
-  EXPECT_FALSE(h.form->Visible()) << "touching a control showed the form";
-  h.form->Unload();
-  EXPECT_EQ(h.C("txtCode").Text(), "");
-  EXPECT_EQ(h.form->loads, 2);
-}
-
-// Activate runs when a form is shown and again when it becomes the front form after a child
-// dialog closes (the biller dialog restyles itself then); a form hidden behind stays inactive.
-// The observers are told each stage apart, as a view needs them.
-TEST(Lifecycle, ActivateRunsAgainWhenAChildDialogCloses) {
-  for (const bool hide : {false, true}) {
-    SCOPED_TRACE(hide ? "child hidden" : "child unloaded");
-    Harness h;
-    h.driver.script = [&](forms::Form& f) {
-      EXPECT_EQ(h.app.ActiveForm(), h.child.get());
-      EXPECT_EQ(h.form->activations, 1) << "the parent was activated under its child";
-      if (hide) {
-        f.Hide();
-      } else {
-        f.Unload();
-      }
-    };
-    h.form->Show();
-    h.child->Show(true);
-    EXPECT_EQ(h.child->activations, 1);
-    EXPECT_EQ(h.form->activations, 2);
-    EXPECT_EQ(h.app.ActiveForm(), h.form.get());
-    h.form->Hide();
-    h.form->Unload();
-    std::vector<std::string> expected{"frmTest loaded",
-                                      "frmTest shown embedded",
-                                      "frmTest activated",
-                                      "frmChild loaded",
-                                      "frmChild shown modal",
-                                      "frmChild activated",
-                                      hide ? "frmChild hidden" : "frmChild unloaded",
-                                      "frmTest activated",
-                                      "frmTest hidden"};
-    // A hidden child is still loaded: it closes with its owner, before it.
-    if (hide) expected.push_back("frmChild unloaded");
-    expected.push_back("frmTest unloaded");
-    EXPECT_EQ(h.observer.lifecycle, expected);
   }
 }
 

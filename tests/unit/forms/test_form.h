@@ -18,9 +18,9 @@ namespace nvrandom::forms_test {
 using forms::ControlDesign;
 using K = forms::ControlKind;
 
-// fraMain holds two text boxes, a check box and two option buttons; fraOther holds an option
-// button and, inside fraInner, a third text box; an image array and a button sit on the form.
-inline constexpr std::array<ControlDesign, 16> kControls = {{
+// fraMain holds two text boxes, a check box and two option buttons; fraOther holds, inside
+// fraInner, a third text box; an image array and a button sit on the form.
+inline constexpr std::array<ControlDesign, 15> kControls = {{
     {.kind = K::kFrame, .name = "fraMain", .caption = "Main"},
     {.kind = K::kTextBox,
      .name = "txtName",
@@ -34,7 +34,6 @@ inline constexpr std::array<ControlDesign, 16> kControls = {{
     {.kind = K::kFrame, .name = "fraOther"},
     {.kind = K::kFrame, .name = "fraInner", .container = "fraOther"},
     {.kind = K::kTextBox, .name = "txtInner", .container = "fraInner", .tab_index = 5},
-    {.kind = K::kOptionButton, .name = "optC", .container = "fraOther", .tab_index = 6},
     {.kind = K::kImage, .name = "imgHelp", .index = 0},
     {.kind = K::kImage, .name = "imgHelp", .index = 1},
     {.kind = K::kImage, .name = "imgHelp", .index = 2},
@@ -48,17 +47,15 @@ inline constexpr forms::FormDesign kPreviewForm{
     .name = "frmTest", .caption = "Test", .key_preview = true};
 inline constexpr forms::FormDesign kChildForm{.name = "frmChild", .caption = "Child"};
 
-// A form whose own events are hooks, counted and logged in the order they ran.
+// A form whose own events are hooks, logged in the order they ran.
 class TestForm final : public forms::Form {
  public:
   explicit TestForm(forms::Application& app, const forms::FormDesign& design = kPlainForm)
       : forms::Form(app, design, kControls) {}
 
   void Form_Load() override {
-    ++loads;
     if (on_load) on_load();
   }
-  void Form_Activate() override { ++activations; }
   void Form_QueryUnload(int16_t& cancel, int16_t unload_mode) override {
     log.push_back("QueryUnload " + std::to_string(unload_mode));
     if (on_query_unload) on_query_unload(cancel, unload_mode);
@@ -75,8 +72,6 @@ class TestForm final : public forms::Form {
     if (on_key_press) on_key_press(key_ascii);
   }
 
-  int loads = 0;
-  int activations = 0;
   std::vector<std::string> log;
   std::function<void()> on_load;
   std::function<void(int16_t&, int16_t)> on_query_unload;
@@ -86,15 +81,11 @@ class TestForm final : public forms::Form {
 
 using testing::ScriptedDriver;
 
-// Records refused focus requests and the forms' lifecycle stages.
+// Records refused focus requests.
 class RecordingObserver final : public forms::FormObserver {
  public:
   void FocusRefused(forms::Control& control) override { refused.push_back(control.FullName()); }
-  void FormLifecycle(forms::Form& f, forms::FormEvent e) override {
-    lifecycle.push_back(f.Name() + " " + std::string(forms::FormEventName(e)));
-  }
   std::vector<std::string> refused;
-  std::vector<std::string> lifecycle;
 };
 
 // An application with a test form, a second one to open over it, a scripted modal driver and an
@@ -119,6 +110,11 @@ struct Harness {
   RecordingObserver observer;
   std::shared_ptr<TestForm> form = NewForm();
   std::shared_ptr<TestForm> child = NewForm(kChildForm);
+};
+
+// The harness with its test form shown, so that its controls can take the focus and keys.
+struct ShownHarness : Harness {
+  ShownHarness() { form->Show(); }
 };
 
 }  // namespace nvrandom::forms_test

@@ -70,22 +70,14 @@ TEST_F(CountriesCommandTest, RoundTripsTheSampleFile) {
 // A changed byte or a file cut short is refused (any byte, any cut: fuzz_country_file), with
 // the command's message, and nothing is written for decipher.
 TEST_F(CountriesCommandTest, RefusesTamperedFiles) {
-  const size_t size = sealed_bytes_.size();
-  const auto flipped = [&](size_t at) {
-    std::string bytes = sealed_bytes_;
-    bytes[at] = static_cast<char>(bytes[at] ^ 0x01);
-    return bytes;
-  };
   const struct {
     const char* what;
     std::string bytes;
   } cases[] = {
-      {"magic", flipped(0)},
-      {"version", flipped(4)},
-      {"tag", flipped(size - 1)},
+      {"a changed tag", sealed_bytes_.substr(0, sealed_bytes_.size() - 1) +
+                            static_cast<char>(sealed_bytes_.back() ^ 0x01)},
       {"header only", sealed_bytes_.substr(0, country_file::kHeaderSize)},
       {"empty", ""},
-      {"older format", "NVC1" + std::string(48, 'x')},
   };
   for (const auto& c : cases) {
     Write(sealed_, c.bytes);

@@ -20,25 +20,24 @@ std::string Repeat(std::string_view unit, size_t size) {
 }
 
 // Every check gives one of its defined answers and reports no error, whatever it is given: texts
-// of a mebibyte, past any fuzzer's length (the fuzzers hold the same checks to the same ranges on
-// short inputs, the empty one included). Each text is built when its row runs.
+// of a mebibyte, past any fuzzer's length: digits for the number paths, blanks for trimming, an
+// address for the patterns. (The fuzzers hold the same checks to the same ranges on short inputs
+// of any bytes, NULs, bytes that are not UTF-8 and the empty one included.) Each text is built
+// when its row runs.
 TEST(HostileInput, EveryCheckAnswersWithinItsRange) {
   const struct {
     const char* name;
     std::string_view unit;
-    size_t size;
     std::string_view tail = {};
   } rows[] = {
-      {"digits", "0123456789", kMebibyte},
-      {"blanks", " ", kMebibyte},
-      {"not UTF-8", "\x80\xFF\xC3", kMebibyte},
-      {"NULs", std::string_view("a\0b", 3), kMebibyte},
-      {"e-mail-like", "a.", kMebibyte, "@example.com"},
+      {"digits", "0123456789"},
+      {"blanks", " "},
+      {"e-mail-like", "a.", "@example.com"},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     testing::Host h;
-    const std::string text = Repeat(row.unit, row.size) + std::string(row.tail);
+    const std::string text = Repeat(row.unit, kMebibyte) + std::string(row.tail);
     h.ctx.store.Provpostalstr = text;
     Random random(h.ctx);
     const auto truth = [](int16_t v) { return v == kTrue || v == kFalse; };

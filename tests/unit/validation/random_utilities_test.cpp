@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "app/headless_services.h"
 #include "component/show_error.h"
 #include "platform/message_box.h"
 #include "support/test_host.h"
@@ -21,21 +20,6 @@ TEST(Fileexists, ANulDoesNotEndTheName) {
   std::ofstream(file) << "x";
   testing::Host h;
   EXPECT_EQ(Random(h.ctx).Fileexists(file.string() + std::string(1, '\0') + "tail"), kFalse);
-}
-
-// The Windows folder always ends in a separator; the system folder is the platform's.
-TEST(Get_Windows_Dir, AlwaysEndsInASeparator) {
-  for (const auto& [windows, expected] :
-       {std::pair{"/home/u/.local/share", "/home/u/.local/share/"},
-        {"/home/u/.local/share/", "/home/u/.local/share/"},
-        {"", "/"}}) {
-    auto headless = headless::MakeHeadlessServices(testing::P(windows));
-    Context ctx(std::move(headless.services));
-    Random random(ctx);
-    random.Get_Windows_Dir();
-    EXPECT_EQ(random.WindowsDir(), testing::P(expected));
-    EXPECT_EQ(random.SystemDir(), "/usr/lib" + std::string(1, path::kSeparator));
-  }
 }
 
 // The shell's answers that the procedure explains, each with its own text, and those it passes
