@@ -117,10 +117,14 @@ void UpdateTextBox(ControlRecord& r, Property p) {
 
 // Combo boxes and data lists: an editable box whose edit field takes the keys -----------------
 
-// A data list's rows model is set before this: made editable, the box makes its drop-down list
-// and its completer on the model it has then.
+// A data list's rows model is set before this: made editable, the box makes its completer on
+// the model it has then. It is made editable by handing it an edit field: setEditable() would
+// also make the drop-down list at once (and its item delegate twice), which is otherwise made
+// when the list first drops down, the same list.
 QComboBox* SetUpCombo(ControlRecord& r, QComboBox* combo) {
-  combo->setEditable(true);
+  auto* edit = new QLineEdit(combo);
+  edit->setPalette(combo->palette());  // as setEditable() gives it
+  combo->setLineEdit(edit);
   combo->setInsertPolicy(QComboBox::NoInsert);
   combo->setMaxVisibleItems(kVisibleListRows);
   combo->lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
