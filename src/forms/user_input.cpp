@@ -46,8 +46,9 @@ bool Type(Control& control, std::string_view text) {
     if (!FocusWithin(control)) return false;
   }
   // As at a keyboard, each key is input of its own: it and the keys its handlers send are done
-  // before the next, which goes to the control that has the focus by then.
-  for (const char32_t c : DecodeKeys(text)) {
+  // before the next, which goes to the control that has the focus by then. What a person types
+  // is literal: "~" is a tilde, not the Enter of a handler's SendKeys text.
+  for (const char32_t c : utf8::Decode(text)) {
     Control* target = app.Focused();
     if (target == nullptr) break;
     const Input key(target->form());
