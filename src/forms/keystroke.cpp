@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "forms/access_keys.h"
 #include "forms/application.h"
 #include "forms/control.h"
 #include "forms/form.h"
@@ -96,6 +97,10 @@ void MoveCaret(Control& c, int to, bool extend) {
 
 // What a key that types no character does to the control that has the focus.
 void EditingAction(Control& c, int16_t key_code, int16_t shift) {
+  if ((shift & keys::kAltMask) != 0 && (shift & keys::kCtrlMask) == 0) {
+    PressAccessKey(c, key_code);
+    return;
+  }
   if (key_code == keys::kKeyTab && shift == keys::kShiftMask) {
     if (Control* previous = Application::PreviousTabStop(c)) c.form().app().SetFocus(*previous);
     return;

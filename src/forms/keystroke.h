@@ -30,6 +30,7 @@ inline constexpr int16_t kKeyV = 86;
 inline constexpr int16_t kKeyX = 88;
 inline constexpr int16_t kShiftMask = 1;
 inline constexpr int16_t kCtrlMask = 2;
+inline constexpr int16_t kAltMask = 4;
 // MouseDown's buttons.
 inline constexpr int16_t kLeftButton = 1;
 inline constexpr int16_t kRightButton = 2;

@@ -22,7 +22,8 @@ bool Type(Control& control, std::string_view text);
 // Focus, then one physical key typing that character code (13 Enter, 8 Backspace, 22 paste).
 bool Key(Control& control, int16_t key_ascii);
 // Focus, then one physical key that types no character: KeyDown, its editing action (Delete,
-// arrows, Home, End, Shift+Insert; Control+C/V/X as their KeyPress), KeyUp.
+// arrows, Home, End, Shift+Insert; Control+C/V/X as their KeyPress; with Alt, the access key of
+// a caption), KeyUp.
 bool KeyDown(Control& control, int16_t key_code, int16_t shift);
 // The person selects [start, start + length) of the control's text (clipped to it); focus first.
 bool Select(Control& control, int start, int length);

@@ -45,7 +45,7 @@ const std::array<forms::ControlDesign, 11> kControls = {{
     At(120, 540, {.kind = K::kLabel, .name = "lblPlain", .caption = "&Plain text:", .width = 1300}),
     At(1500, 540, {.kind = K::kTextBox, .name = "txtPlain", .width = 2600, .tab_index = 1}),
     At(120, 960, {.kind = K::kTextBox, .name = "txtSecret", .tab_index = 2}),
-    At(120, 1380, {.kind = K::kCheckBox, .name = "chkTick", .caption = "Tick", .tab_index = 3}),
+    At(120, 1380, {.kind = K::kCheckBox, .name = "chkTick", .caption = "&Tick", .tab_index = 3}),
     At(2400, 1380, {.kind = K::kFrame, .name = "fraChoice", .width = 3000, .height = 1200}),
     At(120, 300,
        {.kind = K::kOptionButton, .name = "optOne", .container = "fraChoice", .tab_index = 4}),
@@ -53,7 +53,7 @@ const std::array<forms::ControlDesign, 11> kControls = {{
        {.kind = K::kOptionButton, .name = "optTwo", .container = "fraChoice", .tab_index = 5}),
     At(120, 1800, {.kind = K::kComboBox, .name = "cboProv", .tab_index = 6}),
     At(3000, 2700, {.kind = K::kDataList, .name = "dlCountry", .width = 2400, .tab_index = 8}),
-    At(120, 2700, {.kind = K::kCommandButton, .name = "cmdOK", .caption = "OK", .tab_index = 7}),
+    At(120, 2700, {.kind = K::kCommandButton, .name = "cmdOK", .caption = "&OK", .tab_index = 7}),
 }};
 
 // Its handlers change and refuse keys, move on when a field is full, refuse a paste, count clicks.
@@ -159,6 +159,21 @@ class ViewInputTest : public QObject {
     edit->setSelection(0, 1);  // as the mouse selects
     QCOMPARE(Ctl("txtPlain").SelStart(), 0);
     QCOMPARE(Ctl("txtPlain").SelLength(), 1);
+  }
+
+  // Alt with an underlined letter is the model's access key; Qt's own mnemonic, which would tick
+  // the box behind the model's back, does not act.
+  void accessKeysGoThroughTheModel() {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_T, Qt::AltModifier);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_O, Qt::AltModifier);
+    QTest::qWait(300);  // past a mnemonic's animated click
+    QCOMPARE(Ctl("chkTick").Value(), 1);
+    QCOMPARE(Widget<QCheckBox>("chkTick")->checkState(), Qt::Checked);
+    QCOMPARE(form_->clicks, 1);
+    QCOMPARE(app_->Focused(), &Ctl("cmdOK"));
+    QCOMPARE(QApplication::focusWidget(), Widget<QPushButton>("cmdOK"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_P, Qt::AltModifier);
+    QCOMPARE(QApplication::focusWidget(), Widget<QLineEdit>("txtPlain"));
   }
 
   void anInputIsNamedByItsLabel() {

@@ -130,6 +130,24 @@ TEST_F(DialogClient, ADoubleClickClicksOnce) {
   Call(*object, L"Unload_From_Remote");
 }
 
+// Alt with an underlined letter is the model's access key: Alt+I selects "&Individual" from the
+// street, and the option's Click moves the focus on.
+TEST_F(DialogClient, AltWithAnUnderlinedLetterPressesItsControl) {
+  ComPtr<IDispatch> object = ShowBusiness();
+  ASSERT_TRUE(object);
+  const HWND individual = FindControl(DialogOf(*object), L"Individual");
+  ASSERT_NE(individual, nullptr);
+  ASSERT_TRUE(host_.PumpUntil([] { return ::GetFocus() != nullptr; }));
+  const HWND street = ::GetFocus();
+  constexpr LPARAM kAltHeld = LPARAM{1} << 29;
+  ::PostMessageW(street, WM_SYSKEYDOWN, 'I', kAltHeld | 1);
+  ::PostMessageW(street, WM_KEYUP, 'I', static_cast<LPARAM>(0xC0000001));
+  ASSERT_TRUE(host_.PumpUntil(
+      [&] { return ::SendMessageW(individual, BM_GETCHECK, 0, 0) == BST_CHECKED; }));
+  EXPECT_NE(::GetFocus(), street);
+  Call(*object, L"Unload_From_Remote");
+}
+
 std::wstring Heading(HWND list, int column) {
   wchar_t text[64] = {};
   LVCOLUMNW info{};

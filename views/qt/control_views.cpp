@@ -4,12 +4,14 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
 #include <algorithm>
+#include <string>
 
 #include "control_record.h"
 #include "picture_resources.h"
@@ -284,6 +286,13 @@ void UpdateDataList(ControlRecord& r, Property p) {
 
 // Check boxes, option buttons, buttons, frames, images ----------------------------------------
 
+// The caption with its access key underlined. The key itself is the model's (Alt+letter reaches
+// it as a key press): Qt's own mnemonic would click the widget behind the model's back.
+void SetButtonCaption(QAbstractButton& button, const std::string& caption) {
+  button.setText(ToQString(caption));
+  button.setShortcut(QKeySequence());
+}
+
 QWidget* CreateCheckBox(ControlRecord&, QWidget* parent) {
   auto* box = new QCheckBox(parent);
   box->setTristate(true);
@@ -292,7 +301,7 @@ QWidget* CreateCheckBox(ControlRecord&, QWidget* parent) {
 
 void UpdateCheckBox(ControlRecord& r, Property p) {
   auto* box = static_cast<QCheckBox*>(r.widget);
-  if (p == Property::kCaption) box->setText(ToQString(r.control->Caption()));
+  if (p == Property::kCaption) SetButtonCaption(*box, r.control->Caption());
   if (p == Property::kValue) {
     const int v = r.control->Value();
     box->setCheckState(v == 1 ? Qt::Checked : v == 2 ? Qt::PartiallyChecked : Qt::Unchecked);
@@ -308,7 +317,7 @@ QWidget* CreateOptionButton(ControlRecord&, QWidget* parent) {
 
 void UpdateOptionButton(ControlRecord& r, Property p) {
   auto* button = static_cast<QRadioButton*>(r.widget);
-  if (p == Property::kCaption) button->setText(ToQString(r.control->Caption()));
+  if (p == Property::kCaption) SetButtonCaption(*button, r.control->Caption());
   if (p == Property::kValue) button->setChecked(r.control->Value() != 0);
 }
 
@@ -320,7 +329,7 @@ QWidget* CreateCommandButton(ControlRecord&, QWidget* parent) {
 
 void UpdateCommandButton(ControlRecord& r, Property p) {
   auto* button = static_cast<QPushButton*>(r.widget);
-  if (p == Property::kCaption) button->setText(ToQString(r.control->Caption()));
+  if (p == Property::kCaption) SetButtonCaption(*button, r.control->Caption());
   if (p == Property::kButtonStyle || p == Property::kBackColor || p == Property::kForeColor) {
     // A graphical button shows its own colours; a standard one the system's.
     if (r.control->ButtonStyle() == 1) {
@@ -344,7 +353,7 @@ QWidget* CreateFrame(ControlRecord&, QWidget* parent) {
 
 void UpdateFrame(ControlRecord& r, Property p) {
   if (p == Property::kCaption) {
-    static_cast<QGroupBox*>(r.widget)->setTitle(ToQString(r.control->Caption()));
+    static_cast<QGroupBox*>(r.widget)->setTitle(WithoutAccessKeys(r.control->Caption()));
   }
 }
 

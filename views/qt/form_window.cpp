@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "control_record.h"
+#include "forms/access_keys.h"
 #include "forms/application.h"
 #include "forms/keystroke.h"
 #include "forms/user_input.h"
@@ -47,7 +48,7 @@ int16_t ShiftState(Qt::KeyboardModifiers modifiers) {
   int16_t shift = 0;
   if (modifiers & Qt::ShiftModifier) shift |= forms::keys::kShiftMask;
   if (modifiers & Qt::ControlModifier) shift |= forms::keys::kCtrlMask;
-  if (modifiers & Qt::AltModifier) shift |= 4;
+  if (modifiers & Qt::AltModifier) shift |= forms::keys::kAltMask;
   return shift;
 }
 
@@ -224,24 +225,14 @@ void FormWindow::CreateWidget(ControlRecord& record) {
   tree_order_.push_back(&record);
 }
 
-// A screen reader reads an input by its label: the label in the same container on the input's
-// line, nearest to its left.
+// A screen reader reads an input by the label that names it.
 void FormWindow::NameInputs() {
   for (auto& input : records_) {
     const Control& c = *input->control;
     if (!forms::IsTextKind(c.kind())) continue;
-    const Control* best = nullptr;
-    const int32_t middle = c.Top() + c.Height() / 2;
-    for (const auto& other : records_) {
-      const Control& l = *other->control;
-      if (l.kind() != ControlKind::kLabel || l.Container() != c.Container() ||
-          l.Caption().empty() || l.Left() + l.Width() > c.Left() + 60 || middle < l.Top() ||
-          middle > l.Top() + l.Height() + 60) {
-        continue;
-      }
-      if (best == nullptr || l.Left() > best->Left()) best = &l;
+    if (const Control* label = forms::LabelOf(c)) {
+      input->input->setAccessibleName(WithoutAccessKeys(label->Caption()));
     }
-    if (best != nullptr) input->input->setAccessibleName(WithoutAccessKeys(best->Caption()));
   }
 }
 

@@ -11,6 +11,7 @@
 #include "forms/application.h"
 #include "forms/keystroke.h"
 #include "forms/user_input.h"
+#include "platform/ascii.h"
 #include "platform/clipboard.h"
 #include "platform/win32/wide_text.h"
 #include "win32_units.h"
@@ -31,8 +32,16 @@ int16_t ShiftState() {
   int16_t shift = 0;
   if (KeyIsDown(VK_SHIFT)) shift |= forms::keys::kShiftMask;
   if (KeyIsDown(VK_CONTROL)) shift |= forms::keys::kCtrlMask;
-  if (KeyIsDown(VK_MENU)) shift |= 4;
+  if (KeyIsDown(VK_MENU)) shift |= forms::keys::kAltMask;
   return shift;
+}
+
+// Alt (the context bit of a key message) with a letter or digit, and no Control key.
+bool IsAccessKey(WPARAM key, LPARAM lparam) {
+  constexpr LPARAM kAltContext = LPARAM{1} << 29;
+  const char c = key < 128 ? static_cast<char>(key) : '\0';
+  return (lparam & kAltContext) != 0 && !KeyIsDown(VK_CONTROL) &&
+         (ascii::IsLetter(c) || ascii::IsDigit(c));
 }
 
 // The key code KeyDown gets for a key that types no character (0: a key that types one, which
@@ -108,6 +117,7 @@ LRESULT FormWindow::ControlMessage(ControlRecord& r, HWND hwnd, UINT message, WP
     case WM_KEYUP:
     case WM_CHAR:
     case WM_SYSKEYDOWN:
+    case WM_SYSCHAR:
       return Key(r, hwnd, message, wparam, lparam);
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
@@ -148,9 +158,18 @@ LRESULT FormWindow::Key(ControlRecord& r, HWND hwnd, UINT message, WPARAM wparam
     DropDown(r);
     return 0;
   }
-  if (message == WM_SYSKEYDOWN) return ::DefSubclassProc(hwnd, message, wparam, lparam);
+  // Alt with a letter or digit is a caption's access key, the model's to act on; its WM_SYSCHAR
+  // is then no menu key.
+  if (message == WM_SYSKEYDOWN || message == WM_SYSCHAR) {
+    if (!IsAccessKey(wparam, lparam)) return ::DefSubclassProc(hwnd, message, wparam, lparam);
+    if (message == WM_SYSCHAR) return 0;
+  }
   Win32View::InputScope scope(view_);
   Control& c = *r.control;
+  if (message == WM_SYSKEYDOWN) {
+    forms::user::KeyDown(c, static_cast<int16_t>(wparam), ShiftState() | forms::keys::kAltMask);
+    return 0;
+  }
   if (message == WM_KEYDOWN) {
     const int16_t shift = ShiftState();
     if (const int16_t code = NonCharacterKey(wparam, (shift & forms::keys::kCtrlMask) != 0)) {

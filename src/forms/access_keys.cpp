@@ -1,0 +1,125 @@
+#include "forms/access_keys.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "forms/application.h"
+#include "forms/control.h"
+#include "forms/form.h"
+#include "forms/user_input.h"
+#include "platform/ascii.h"
+
+namespace nvrandom::forms {
+
+namespace {
+
+// How far (twips) a label may reach past an input's left edge, or below its line, and still name
+// it: the dialogs' labels overlap their boxes by a few pixels.
+constexpr int32_t kLabelSlack = 60;
+
+bool Inside(const Control& c, const Control& frame) {
+  for (const Control* up = c.Container(); up != nullptr; up = up->Container()) {
+    if (up == &frame) return true;
+  }
+  return false;
+}
+
+// Where a control's access key leads: the input a label names, the first tab stop inside a
+// frame, or the control itself.
+Control* TargetOf(Control& marked) {
+  const std::vector<std::unique_ptr<Control>>& controls = marked.form().Controls();
+  if (marked.kind() == ControlKind::kLabel) {
+    for (const auto& c : controls) {
+      if (IsTextKind(c->kind()) && LabelOf(*c) == &marked) return c.get();
+    }
+    return nullptr;
+  }
+  if (marked.kind() != ControlKind::kFrame) return &marked;
+  Control* first = nullptr;
+  for (const auto& c : controls) {
+    if (c->TabStop() && Inside(*c, marked) && Application::Available(*c) &&
+        (first == nullptr || c->TabIndex() < first->TabIndex())) {
+      first = c.get();
+    }
+  }
+  return first;
+}
+
+// A target's place in tab order; a label or frame stands where its target does.
+int TabPosition(Control& marked) {
+  const Control* target = TargetOf(marked);
+  return target != nullptr ? target->TabIndex() : -1;
+}
+
+}  // namespace
+
+char AccessKeyOf(std::string_view caption) {
+  for (size_t i = 0; i + 1 < caption.size(); ++i) {
+    if (caption[i] != '&') continue;
+    if (caption[i + 1] != '&') return ascii::ToUpper(caption[i + 1]);
+    ++i;
+  }
+  return '\0';
+}
+
+const Control* LabelOf(const Control& input) {
+  const Control* best = nullptr;
+  const int32_t middle = input.Top() + input.Height() / 2;
+  for (const auto& other : input.form().Controls()) {
+    const Control& l = *other;
+    if (l.kind() != ControlKind::kLabel || l.Container() != input.Container() ||
+        l.Caption().empty() || l.Left() + l.Width() > input.Left() + kLabelSlack ||
+        middle < l.Top() || middle > l.Top() + l.Height() + kLabelSlack) {
+      continue;
+    }
+    if (best == nullptr || l.Left() > best->Left()) best = &l;
+  }
+  return best;
+}
+
+namespace {
+
+// The controls that answer Alt with `key_code` now, in tab order.
+std::vector<Control*> Answering(const Control& focused, int16_t key_code) {
+  std::vector<Control*> marked;
+  if (key_code <= ' ' || key_code >= 127) return marked;
+  const char key = ascii::ToUpper(static_cast<char>(key_code));
+  if (!ascii::IsUpper(key) && !ascii::IsDigit(key)) return marked;
+  const Application& app = focused.form().app();
+  for (const auto& c : focused.form().Controls()) {
+    if (IsTextKind(c->kind()) || AccessKeyOf(c->Caption()) != key || !app.TakesInput(*c)) {
+      continue;
+    }
+    const Control* target = TargetOf(*c);
+    if (target != nullptr && (target == c.get() || Application::Available(*target))) {
+      marked.push_back(c.get());
+    }
+  }
+  std::stable_sort(marked.begin(), marked.end(),
+                   [](Control* a, Control* b) { return TabPosition(*a) < TabPosition(*b); });
+  return marked;
+}
+
+}  // namespace
+
+bool AnswersAccessKey(const Control& focused, int16_t key_code) {
+  return !Answering(focused, key_code).empty();
+}
+
+bool PressAccessKey(Control& focused, int16_t key_code) {
+  const std::vector<Control*> marked = Answering(focused, key_code);
+  if (marked.empty()) return false;
+  // The first after the focus in tab order, wrapping round.
+  const auto after = std::find_if(marked.begin(), marked.end(),
+                                  [&](Control* c) { return TabPosition(*c) > focused.TabIndex(); });
+  Control& chosen = after != marked.end() ? **after : *marked.front();
+  Control& target = *TargetOf(chosen);
+  if (&target != &chosen || marked.size() > 1) {
+    if (target.CanFocus()) user::Focus(target);
+    return true;
+  }
+  user::Click(target);
+  return true;
+}
+
+}  // namespace nvrandom::forms
