@@ -199,6 +199,17 @@ class ViewInputTest : public QObject {
     QCOMPARE(plain->text(), QString("pasted"));
   }
 
+  // An edit Qt would make on its own, as a drop or a pasted X selection does, leaves the field
+  // showing the model's text.
+  void anEditBehindTheModelsBackIsShownBack() {
+    QLineEdit* plain = Widget<QLineEdit>("txtPlain");
+    QTest::mouseClick(plain, Qt::LeftButton);
+    QTest::keyClicks(plain, "ab");
+    plain->insert("zz");
+    QCOMPARE(plain->text(), QString("ab"));
+    QCOMPARE(Ctl("txtPlain").Text(), "ab");
+  }
+
   void inputMethodTextIsTypedAsItsCharacters() {
     QLineEdit* plain = Widget<QLineEdit>("txtPlain");
     QTest::mouseClick(plain, Qt::LeftButton);

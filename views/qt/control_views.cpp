@@ -93,8 +93,10 @@ void UpdateHyperLink(ControlRecord& r, Property p) {
 
 QWidget* CreateTextBox(ControlRecord& r, QWidget* parent) {
   auto* edit = new QLineEdit(parent);
-  // The person's context menu is the model's: its Paste goes through the runtime.
+  // The person's context menu is the model's: its Paste goes through the runtime. Text comes in
+  // typed or pasted, through the field's rules: not dropped.
   edit->setContextMenuPolicy(Qt::NoContextMenu);
+  edit->setAcceptDrops(false);
   r.input = edit;
   return edit;
 }
@@ -130,6 +132,7 @@ QComboBox* SetUpCombo(ControlRecord& r, QComboBox* combo) {
   combo->setInsertPolicy(QComboBox::NoInsert);
   combo->setMaxVisibleItems(kVisibleListRows);
   combo->lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
+  combo->lineEdit()->setAcceptDrops(false);
   // The model follows typing to the row it names; the box's own completion would type for it.
   combo->setCompleter(nullptr);
   r.input = combo->lineEdit();

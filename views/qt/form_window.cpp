@@ -151,6 +151,13 @@ FormWindow::FormWindow(forms::Form& form, double logical_dpi, QWidget* parent)
   for (auto& record : records_) CreateWidget(*record);
   for (auto& record : records_) {
     ControlRecord* r = record.get();
+    // The model holds the text: an edit Qt makes on its own (an undo, a selection pasted with
+    // the middle button) is shown back as the model has it.
+    if (auto* edit = qobject_cast<QLineEdit*>(r->input)) {
+      QObject::connect(edit, &QLineEdit::textEdited, this, [this, r] {
+        if (form_ != nullptr) Update(*r, Property::kText);
+      });
+    }
     // A choice from a list's drop-down is the person's: the model chooses the row.
     if (auto* combo = qobject_cast<QComboBox*>(r->widget)) {
       QObject::connect(combo, &QComboBox::activated, this, [this, r](int row) {
@@ -412,6 +419,12 @@ bool FormWindow::Mouse(ControlRecord& r, QEvent* event) {
   const auto [button, shift, x, y] = ArgsOf(*me, dpi_);
   const bool text_kind = forms::IsTextKind(c.kind());
   if (text_kind) {
+    if (me->button() == Qt::MiddleButton) {
+      // No paste of the X selection: what goes in goes through the field's rules.
+      if (event->type() == QEvent::MouseButtonPress) forms::user::MouseDown(c, button, shift, x, y);
+      if (event->type() == QEvent::MouseButtonRelease) forms::user::MouseUp(c, button, shift, x, y);
+      return true;
+    }
     if (me->button() != Qt::RightButton) {
       // The edit field places the caret and selects; the model hears the buttons, and a text
       // box its clicks (a list's Click is the choice of a row, made by the list itself).
