@@ -170,6 +170,13 @@ bool Pick(Control& control, std::string_view value) {
   return false;
 }
 
+bool PickRow(Control& control, int row) {
+  const Input input(control.form());
+  if (!FocusWithin(control) || row < 0 || row >= control.ListCount()) return false;
+  control.SetListIndex(row);
+  return true;
+}
+
 void CloseBox(Form& form) {
   const Input input(form);
   form.Unload(unload_mode::kCloseBox);

@@ -49,6 +49,9 @@ bool Click(Control& control);
 // Chooses a list row with the mouse: by the bound (code) column in data lists, by its text in
 // combo boxes. False when the control is not available or has no such row.
 bool Pick(Control& control, std::string_view value);
+// Chooses row `row` (0-based) of a list, as a click in its drop-down or the mouse wheel does.
+// False when the control is not available or has no such row.
+bool PickRow(Control& control, int row);
 // The window's close box (unload mode 0) and the system shutting down (mode 2).
 void CloseBox(Form& form);
 void Shutdown(Form& form);

@@ -188,6 +188,16 @@ TEST_F(DialogClient, DataListsDropDownATableUnderTheirColumnHeadings) {
   PostKey(table, VK_RETURN);
   ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindowVisible(popup); }));
   EXPECT_EQ(WindowText(country), L"US");
+
+  // The wheel over the closed box walks the rows as the arrow keys do, through the model.
+  const auto wheel = [&](short delta) {
+    ::PostMessageW(country, WM_MOUSEWHEEL, MAKEWPARAM(0, delta), 0);
+  };
+  wheel(-WHEEL_DELTA);
+  ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(country) != L"US"; }));
+  EXPECT_FALSE(WindowText(country).empty());
+  wheel(WHEEL_DELTA);
+  ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(country) == L"US"; }));
   Call(*object, L"Unload_From_Remote");
 }
 

@@ -161,11 +161,8 @@ FormWindow::FormWindow(forms::Form& form, double logical_dpi, QWidget* parent)
     // A choice from a list's drop-down is the person's: the model chooses the row.
     if (auto* combo = qobject_cast<QComboBox*>(r->widget)) {
       QObject::connect(combo, &QComboBox::activated, this, [this, r](int row) {
-        if (form_ == nullptr || row < 0 || row >= r->control->ListCount()) return;
-        const bool by_code = r->control->kind() == ControlKind::kDataList;
-        const auto& cells = r->control->Row(row);
-        const auto column = static_cast<size_t>(by_code ? r->control->BoundColumn() : 0);
-        if (column < cells.size()) forms::user::Pick(*r->control, cells[column]);
+        if (form_ == nullptr) return;
+        forms::user::PickRow(*r->control, row);
         if (form_ != nullptr) Update(*r, Property::kText);
       });
     }

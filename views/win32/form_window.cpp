@@ -302,10 +302,8 @@ bool FormWindow::ParentMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESU
       const UINT code = HIWORD(wparam);
       if (code == CBN_SELENDOK && form_ != nullptr) {
         const auto row = static_cast<int>(::SendMessageW(r->hwnd, CB_GETCURSEL, 0, 0));
-        if (row >= 0 && row < r->control->ListCount()) {
-          Win32View::InputScope scope(view_);
-          forms::user::Pick(*r->control, r->control->List(row));
-        }
+        Win32View::InputScope scope(view_);
+        forms::user::PickRow(*r->control, row);
       }
       // The box shows the model's text again, whatever the list put there.
       if ((code == CBN_SELENDOK || code == CBN_SELENDCANCEL || code == CBN_CLOSEUP) &&

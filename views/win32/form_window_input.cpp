@@ -350,14 +350,9 @@ void FormWindow::DropDown(ControlRecord& r) {
 
 void FormWindow::RowChosen(ControlRecord& r, int row) {
   ShowFocus();
-  if (form_ == nullptr || r.control == nullptr || row < 0 || row >= r.control->ListCount()) {
-    return;
-  }
+  if (form_ == nullptr || r.control == nullptr) return;
   Win32View::InputScope scope(view_);
-  Control& c = *r.control;
-  const auto& cells = c.Row(row);
-  const auto column = static_cast<size_t>(c.BoundColumn());
-  if (column < cells.size()) forms::user::Pick(c, cells[column]);
+  forms::user::PickRow(*r.control, row);
 }
 
 }  // namespace nvrandom::win32
