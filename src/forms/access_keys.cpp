@@ -51,6 +51,27 @@ int TabPosition(Control& marked) {
   return target != nullptr ? target->TabIndex() : -1;
 }
 
+// The controls that answer Alt with `key_code` now, in tab order.
+std::vector<Control*> Answering(const Control& focused, int16_t key_code) {
+  std::vector<Control*> marked;
+  if (key_code <= ' ' || key_code >= 127) return marked;
+  const char key = ascii::ToUpper(static_cast<char>(key_code));
+  if (!ascii::IsUpper(key) && !ascii::IsDigit(key)) return marked;
+  const Application& app = focused.form().app();
+  for (const auto& c : focused.form().Controls()) {
+    if (IsTextKind(c->kind()) || AccessKeyOf(c->Caption()) != key || !app.TakesInput(*c)) {
+      continue;
+    }
+    const Control* target = TargetOf(*c);
+    if (target != nullptr && (target == c.get() || Application::Available(*target))) {
+      marked.push_back(c.get());
+    }
+  }
+  std::stable_sort(marked.begin(), marked.end(),
+                   [](Control* a, Control* b) { return TabPosition(*a) < TabPosition(*b); });
+  return marked;
+}
+
 }  // namespace
 
 char AccessKeyOf(std::string_view caption) {
@@ -75,35 +96,6 @@ const Control* LabelOf(const Control& input) {
     if (best == nullptr || l.Left() > best->Left()) best = &l;
   }
   return best;
-}
-
-namespace {
-
-// The controls that answer Alt with `key_code` now, in tab order.
-std::vector<Control*> Answering(const Control& focused, int16_t key_code) {
-  std::vector<Control*> marked;
-  if (key_code <= ' ' || key_code >= 127) return marked;
-  const char key = ascii::ToUpper(static_cast<char>(key_code));
-  if (!ascii::IsUpper(key) && !ascii::IsDigit(key)) return marked;
-  const Application& app = focused.form().app();
-  for (const auto& c : focused.form().Controls()) {
-    if (IsTextKind(c->kind()) || AccessKeyOf(c->Caption()) != key || !app.TakesInput(*c)) {
-      continue;
-    }
-    const Control* target = TargetOf(*c);
-    if (target != nullptr && (target == c.get() || Application::Available(*target))) {
-      marked.push_back(c.get());
-    }
-  }
-  std::stable_sort(marked.begin(), marked.end(),
-                   [](Control* a, Control* b) { return TabPosition(*a) < TabPosition(*b); });
-  return marked;
-}
-
-}  // namespace
-
-bool AnswersAccessKey(const Control& focused, int16_t key_code) {
-  return !Answering(focused, key_code).empty();
 }
 
 bool PressAccessKey(Control& focused, int16_t key_code) {

@@ -24,7 +24,5 @@ const Control* LabelOf(const Control& input);
 // that are hidden or disabled, or inside a hidden or disabled frame, do not answer. Returns
 // whether one did.
 bool PressAccessKey(Control& focused, int16_t key_code);
-// Whether a control would answer that key now (a view leaves other Alt keys to its host).
-bool AnswersAccessKey(const Control& focused, int16_t key_code);
 
 }  // namespace nvrandom::forms
