@@ -188,9 +188,10 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
         break;
       }
       case 4: {
-        static constexpr int16_t kDown[][2] = {{46, 0}, {37, 0}, {39, 1}, {36, 0},
-                                               {35, 1}, {45, 1}, {86, 2}, {67, 2},
-                                               {88, 2}, {38, 0}, {40, 0}, {45, 0}};
+        // Editing keys, then the access keys the dialogs mark (Alt+I, B, H, V, E, O).
+        static constexpr int16_t kDown[][2] = {
+            {46, 0}, {37, 0}, {39, 1}, {36, 0}, {35, 1}, {45, 1}, {86, 2}, {67, 2}, {88, 2},
+            {38, 0}, {40, 0}, {45, 0}, {73, 4}, {66, 4}, {72, 4}, {86, 4}, {69, 4}, {79, 4}};
         const auto& k = kDown[in.Next() % std::size(kDown)];
         user::KeyDown(*control, k[0], k[1]);
         break;
