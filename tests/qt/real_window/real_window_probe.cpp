@@ -1,8 +1,8 @@
 // The biller dialog in a real window of the display it is given, for a driver that sends real
 // key events to it. Opens the business sample in a top-level window and runs until the window
 // is gone; when the window is asked to close, prints what the model and the widgets held then:
-// the street and city texts (each as the model has it and as its edit field shows it) and the
-// control that had the focus.
+// the street and city texts (each as the model has it and as its edit field shows it), the
+// "Individual" option and the control that had the focus.
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLineEdit>
@@ -32,6 +32,7 @@ class CloseWatch final : public QObject {
       std::printf("%s=%s\n%s shown=%s\n", name, form.Ctl(name).Text().c_str(), name,
                   edit != nullptr ? edit->text().toStdString().c_str() : "(none)");
     }
+    std::printf("individual=%d\n", form.Ctl("optCIndividual").Value());
     const nvrandom::forms::Control* focused = form.ActiveControl();
     std::printf("focus=%s\n", focused != nullptr ? focused->FullName().c_str() : "(none)");
     std::fflush(stdout);

@@ -1,8 +1,9 @@
 #!/bin/sh
 # The biller dialog in a real X window (Xvfb) under a window manager (openbox), driven with real
-# key events (xdotool): typing is upper-cased by the dialog, Tab and Shift+Tab move the focus,
-# and the window manager's close (Alt+F4) closes the dialog. Every wait is bounded; the X server,
-# the window manager and the dialog are stopped however the test ends.
+# key events (xdotool): typing is upper-cased by the dialog, Tab and Shift+Tab move the focus, an
+# access key selects its option, and the window manager's close (Alt+F4) closes the dialog.
+# Every wait is bounded; the X server, the window manager and the dialog are stopped however the
+# test ends.
 # Usage: real_window_test.sh PROBE
 set -u
 probe=$1
@@ -55,6 +56,8 @@ xdotool key --delay 60 End
 xdotool type --delay 60 " suite 9"
 xdotool key --delay 60 Tab shift+Tab End
 xdotool type --delay 60 "x"
+# Alt+I, the underlined letter of "Individual": selected, and its Click moves on to the phone.
+xdotool key --delay 60 alt+i
 sleep 0.3
 xdotool key alt+F4
 
@@ -70,5 +73,6 @@ expect "ran_payee_street=100 KING ST W SUITE 9X"
 expect "ran_payee_street shown=100 KING ST W SUITE 9X"
 expect "ran_payee_city=TORONTO"
 expect "ran_payee_city shown=TORONTO"
-expect "focus=ran_payee_street"
-echo "real window: typed, tabbed back and closed as expected"
+expect "individual=-1"
+expect "focus=ran_payee_ph_area"
+echo "real window: typed, tabbed back, pressed an access key and closed as expected"
