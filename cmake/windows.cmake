@@ -2,6 +2,12 @@
 
 # No DLL of the compiler's runtime next to ours: libgcc, libstdc++ and winpthread go inside.
 add_link_options(-static -static-libgcc -static-libstdc++)
+# The .def files export the plain names that COM and the outside components' callers look up; on
+# 32-bit those functions are stdcall (DllGetClassObject@12), and the linker is to resolve the one
+# to the other, as it does anyway but with a warning.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  add_link_options(LINKER:--enable-stdcall-fixup)
+endif()
 # Wine's backtraces read DWARF 4.
 add_compile_options(-gdwarf-4)
 # The wide-character forms of the Windows API throughout, for Windows 7 and later.
