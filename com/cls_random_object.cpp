@@ -31,14 +31,7 @@ class EventPoint final : public IConnectionPoint, public ClsRandomEvents {
 
   // IUnknown: lives as long as its container.
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
-    if (out == nullptr) return E_POINTER;
-    if (iid == IID_IUnknown || iid == IID_IConnectionPoint) {
-      *out = static_cast<IConnectionPoint*>(this);
-      AddRef();
-      return S_OK;
-    }
-    *out = nullptr;
-    return E_NOINTERFACE;
+    return QueryOneInterface<IConnectionPoint>(this, IID_IConnectionPoint, iid, out);
   }
   STDMETHODIMP_(ULONG) AddRef() override { return owner_.AddRef(); }
   STDMETHODIMP_(ULONG) Release() override { return owner_.Release(); }

@@ -91,14 +91,7 @@ template <HRESULT (*Create)(REFIID, void**)>
 class ClassFactory final : public IClassFactory {
  public:
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
-    if (out == nullptr) return E_POINTER;
-    if (iid == IID_IUnknown || iid == IID_IClassFactory) {
-      *out = static_cast<IClassFactory*>(this);
-      AddRef();
-      return S_OK;
-    }
-    *out = nullptr;
-    return E_NOINTERFACE;
+    return QueryOneInterface<IClassFactory>(this, IID_IClassFactory, iid, out);
   }
   STDMETHODIMP_(ULONG) AddRef() override {
     AddModuleReference();

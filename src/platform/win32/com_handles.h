@@ -53,6 +53,19 @@ class ComPtr {
   T* p_ = nullptr;
 };
 
+// QueryInterface of an object that answers IUnknown and its one interface `own`, as `self`.
+template <typename Interface>
+HRESULT QueryOneInterface(Interface* self, REFIID own, REFIID iid, void** out) {
+  if (out == nullptr) return E_POINTER;
+  if (iid == IID_IUnknown || iid == own) {
+    *out = self;
+    self->AddRef();
+    return S_OK;
+  }
+  *out = nullptr;
+  return E_NOINTERFACE;
+}
+
 class Bstr {
  public:
   Bstr() = default;
