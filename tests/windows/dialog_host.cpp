@@ -2,7 +2,6 @@
 // Defines the type library's GUIDs for this program.
 #include <initguid.h>
 
-#include <sstream>
 #include <string_view>
 
 #include "NVRandom_h.h"
@@ -168,14 +167,10 @@ ComPtr<IDispatch> DialogHost::Create(std::string_view sample) {
       factory->CreateInstance(nullptr, IID_IDispatch, object.put_void()) != S_OK) {
     return {};
   }
-  for (const demo::SampleBiller& biller : demo::kSampleBillers) {
-    if (biller.name != sample) continue;
-    std::istringstream settings(std::string(demo::kHostSettings) + std::string(biller.settings));
-    for (std::string line; std::getline(settings, line);) {
-      if (FAILED(Let(*object, line))) return {};
-    }
-  }
-  return object;
+  if (sample.empty()) return object;
+  const bool set =
+      demo::LetSample(sample, [&](std::string_view line) { return SUCCEEDED(Let(*object, line)); });
+  return set ? object : ComPtr<IDispatch>{};
 }
 
 DISPID Id(IDispatch& object, const wchar_t* name) {

@@ -1,7 +1,6 @@
 #include "demo_samples.h"
 
 #include <algorithm>
-#include <sstream>
 
 #include "api/cls_random.h"
 #include "sample_billers.h"
@@ -9,19 +8,6 @@
 #include "scenario_values.h"
 
 namespace nvrandom::demo {
-
-namespace {
-
-void LetLines(ClsRandom& biller, std::string_view lines, const std::string& install) {
-  std::istringstream in{std::string(lines)};
-  for (std::string line; std::getline(in, line);) {
-    const auto words = scenario::SplitWords(line);
-    if (words.size() != 2) continue;
-    biller.Let(words[0].text, scenario::HostValue(words[1], install, install));
-  }
-}
-
-}  // namespace
 
 const std::vector<std::string_view>& SampleNames() {
   static const std::vector<std::string_view> names = [] {
@@ -37,10 +23,13 @@ bool IsSample(std::string_view name) {
 }
 
 void LoadSample(ClsRandom& biller, std::string_view name, const std::string& install) {
-  LetLines(biller, kHostSettings, install);
-  for (const SampleBiller& sample : kSampleBillers) {
-    if (sample.name == name) LetLines(biller, sample.settings, install);
-  }
+  LetSample(name, [&](std::string_view line) {
+    const auto words = scenario::SplitWords(line);
+    if (words.size() == 2) {
+      biller.Let(words[0].text, scenario::HostValue(words[1], install, install));
+    }
+    return true;
+  });
 }
 
 }  // namespace nvrandom::demo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -87,5 +88,21 @@ PayeeFXBankAccount "DE89370400440532013000"
 PayeeFXBankSwift "COBADEFFXXX"
 )"},
 }};
+
+// Hands each setting line of the sample `name` to `let(line)`, the host's settings first, while
+// `let` returns true. False when there is no such sample or `let` refused a line.
+template <typename Let>
+bool LetSample(std::string_view name, Let let) {
+  const auto* sample = std::ranges::find(kSampleBillers, name, &SampleBiller::name);
+  if (sample == kSampleBillers.end()) return false;
+  for (std::string_view lines : {kHostSettings, sample->settings}) {
+    while (!lines.empty()) {
+      const size_t end = std::min(lines.find('\n'), lines.size());
+      if (!let(lines.substr(0, end))) return false;
+      lines.remove_prefix(std::min(end + 1, lines.size()));
+    }
+  }
+  return true;
+}
 
 }  // namespace nvrandom::demo
