@@ -17,13 +17,6 @@ namespace {
 // it: the dialogs' labels overlap their boxes by a few pixels.
 constexpr int32_t kLabelSlack = 60;
 
-bool Inside(const Control& c, const Control& frame) {
-  for (const Control* up = c.Container(); up != nullptr; up = up->Container()) {
-    if (up == &frame) return true;
-  }
-  return false;
-}
-
 // Where a control's access key leads: the input a label names, the first tab stop inside a
 // frame, or the control itself.
 Control* TargetOf(Control& marked) {
@@ -37,7 +30,7 @@ Control* TargetOf(Control& marked) {
   if (marked.kind() != ControlKind::kFrame) return &marked;
   Control* first = nullptr;
   for (const auto& c : controls) {
-    if (c->TabStop() && Inside(*c, marked) && Application::Available(*c) &&
+    if (c->TabStop() && c.get() != &marked && c->IsWithin(marked) && Application::Available(*c) &&
         (first == nullptr || c->TabIndex() < first->TabIndex())) {
       first = c.get();
     }

@@ -133,12 +133,7 @@ bool Application::SetFocus(Control& control) {
 void Application::FocusMayBeLost(Control& changed) {
   Form& form = changed.form();
   Control* active = form.active_control_;
-  if (active == nullptr || Available(*active)) return;
-  bool inside = false;
-  for (const Control* c = active; c != nullptr && !inside; c = c->Container()) {
-    inside = c == &changed;
-  }
-  if (!inside) return;
+  if (active == nullptr || Available(*active) || !active->IsWithin(changed)) return;
   Control* next = NextTabStop(*active);
   if (!form.Visible() || ActiveForm() != &form) {
     // Not on screen: the form remembers where the focus will be when it is shown again.

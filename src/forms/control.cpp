@@ -318,6 +318,13 @@ bool Control::SelectBound(std::string_view code) {
   return false;
 }
 
+bool Control::IsWithin(const Control& container) const {
+  for (const Control* c = this; c != nullptr; c = c->Container()) {
+    if (c == &container) return true;
+  }
+  return false;
+}
+
 bool Control::CanFocus() const {
   switch (design_.kind) {
     case ControlKind::kLabel:

@@ -106,6 +106,8 @@ class Control {
   // "lblAsterisk(2)" for array members, the name otherwise.
   std::string FullName() const;
   Control* Container() const { return container_; }
+  // Whether this is `container` or stands inside it, at any depth.
+  bool IsWithin(const Control& container) const;
   void SetContainer(Control* container) { container_ = container; }
 
   bool Visible() const { return visible_; }
