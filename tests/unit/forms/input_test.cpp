@@ -7,7 +7,6 @@
 
 #include <functional>
 #include <string>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -72,24 +71,6 @@ TEST(Input, OnePhysicalKeyFiresEachEventOnce) {
     EXPECT_EQ(log, row.events);
     EXPECT_EQ(code.Text(), row.text);
   }
-}
-
-// A form with KeyPreview sees each key first (KeyDown, then KeyPress), and what it does to the
-// key is what the control gets; without KeyPreview it sees nothing.
-TEST(Input, KeyPreviewGivesTheFormTheKeyFirst) {
-  Harness h;
-  h.form = h.NewForm(kPreviewForm);
-  h.form->Show();
-  forms::Control& code = h.C("txtCode");
-  LogEvents(code, h.form->log);
-  code.events.KeyUp = nullptr;
-  h.form->on_key_press = [](int16_t& k) { k = k == 'x' ? 'y' : (k == 'z' ? 0 : k); };
-  forms::user::Type(code, "xz");
-  EXPECT_EQ(h.form->log, (Log{"Form_KeyDown 88", "KeyDown 88", "Form_KeyPress 120", "KeyPress 121",
-                              "Change", "Form_KeyDown 90", "KeyDown 90", "Form_KeyPress 122"}));
-  ShownHarness plain;
-  forms::user::Type(plain.C("txtCode"), "x");
-  EXPECT_TRUE(plain.form->log.empty()) << "a form without KeyPreview saw the key";
 }
 
 // Editing happens at the selection, within MaxLength (txtName holds 5 characters), counting
@@ -187,20 +168,9 @@ TEST(Input, AMaskedBoxCopiesNothing) {
   }
 }
 
-// Typed text selects the row whose shown column it names, ignoring case, or none; a plain combo
-// box's choice fires Click alone, a data list's Change then Click.
-TEST(Input, ListsFollowTypingAndChoices) {
-  for (const auto& [typed, row, bound] : {std::tuple{"france", 1, "FR"}, {"Can", -1, ""}}) {
-    ShownHarness h;
-    forms::Control& list = h.C("dlCountry");
-    list.SetBoundColumn(1);
-    list.SetRows({{"Canada", "CA"}, {"France", "FR"}});
-    forms::user::Pick(list, "CA");
-    forms::user::ClearText(list);
-    forms::user::Type(list, typed);
-    EXPECT_EQ(list.ListIndex(), row) << typed;
-    EXPECT_EQ(list.BoundText(), bound) << typed;
-  }
+// A plain combo box's choice fires Click alone, a data list's Change then Click. (Typing into a
+// data list selects the row it names: runtime_input.scn.)
+TEST(Input, ListChoicesFireTheirEvents) {
   for (const auto& [name, events] :
        {std::pair{"cboKind", Log{"Click"}}, {"dlCountry", Log{"Change", "Click"}}}) {
     ShownHarness h;

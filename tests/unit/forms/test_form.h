@@ -43,8 +43,6 @@ inline constexpr std::array<ControlDesign, 15> kControls = {{
 }};
 
 inline constexpr forms::FormDesign kPlainForm{.name = "frmTest", .caption = "Test"};
-inline constexpr forms::FormDesign kPreviewForm{
-    .name = "frmTest", .caption = "Test", .key_preview = true};
 inline constexpr forms::FormDesign kChildForm{.name = "frmChild", .caption = "Child"};
 
 // A form whose own events are hooks, logged in the order they ran.
@@ -64,19 +62,11 @@ class TestForm final : public forms::Form {
     log.push_back("Unload");
     if (on_unload) on_unload(cancel);
   }
-  void Form_KeyDown(int16_t& key_code, int16_t&) override {
-    log.push_back("Form_KeyDown " + std::to_string(key_code));
-  }
-  void Form_KeyPress(int16_t& key_ascii) override {
-    log.push_back("Form_KeyPress " + std::to_string(key_ascii));
-    if (on_key_press) on_key_press(key_ascii);
-  }
 
   std::vector<std::string> log;
   std::function<void()> on_load;
   std::function<void(int16_t&, int16_t)> on_query_unload;
   std::function<void(int16_t&)> on_unload;
-  std::function<void(int16_t&)> on_key_press;
 };
 
 using testing::ScriptedDriver;
