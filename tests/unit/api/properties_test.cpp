@@ -2,11 +2,9 @@
 
 #include <functional>
 #include <string>
-#include <tuple>
 
 #include "api/cls_random.h"
 #include "api/property_table.h"
-#include "component/store.h"
 #include "platform/runtime_error.h"
 #include "support/test_host.h"
 
@@ -21,29 +19,6 @@ int ErrorOf(const std::function<void()>& f) {
     return e.number();
   }
   return 0;
-}
-
-// Row i of the province table comes from elements (0, i) and (1, i) of the array, all but the
-// last column; a row past the table's 21 raises error 9 once the rows before it are in. The errors
-// a host sees are in prov_areacode.scn; here, what was stored.
-TEST(Properties, ProvAreaCodeCopiesAllButTheLastColumn) {
-  for (const auto& [upper, error, copied] : {std::tuple{2, 0, 2}, {22, 9, 21}}) {
-    SCOPED_TRACE(upper);
-    StringArray a = StringArray::TwoDimensional(0, 1, 0, upper);
-    for (int32_t i = 0; i <= upper; ++i) {
-      a.at(0, i) = "P" + std::to_string(i);
-      a.at(1, i) = "A" + std::to_string(i);
-    }
-    Host h;
-    ClsRandom cls(h.ctx);
-    for (auto& r : h.ctx.store.Prov_areacode) r = {"old", "old"};
-    EXPECT_EQ(ErrorOf([&] { cls.Let("Prov_areacode", Variant(a)); }), error);
-    for (int i = 0; i < ComponentStore::kProvAreaCodeRows; ++i) {
-      const auto& stored = h.ctx.store.Prov_areacode[static_cast<size_t>(i)];
-      EXPECT_EQ(stored[0], i < copied ? "P" + std::to_string(i) : "old") << i;
-      EXPECT_EQ(stored[1], i < copied ? "A" + std::to_string(i) : "old") << i;
-    }
-  }
 }
 
 // Every property of the member table is reachable by name and stores what it is given: read back

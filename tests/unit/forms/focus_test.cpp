@@ -96,18 +96,6 @@ TEST(Focus, RequestsForUnavailableControlsAreRefused) {
   }
 }
 
-// Form_Load runs before the form is shown, so a focus request made there is refused like any
-// other; the focus then goes to the first tab stop when the form is shown.
-TEST(Focus, RequestsWhileLoadingAreRefused) {
-  Harness h;
-  bool moved = true;
-  h.form->on_load = [&] { moved = h.app.SetFocus(h.C("txtCode")); };
-  h.form->Show();
-  EXPECT_FALSE(moved);
-  EXPECT_EQ(h.observer.refused, std::vector<std::string>{"txtCode"});
-  EXPECT_EQ(h.app.Focused(), &h.C("txtName"));
-}
-
 // The focused control, hidden or disabled itself or through a container, passes the focus on in
 // tab order, and sent keys reach the new control; with no control left, nothing has the focus and
 // the keys go nowhere. Another control going away leaves the focus where it is.

@@ -51,9 +51,6 @@ class TestForm final : public forms::Form {
   explicit TestForm(forms::Application& app, const forms::FormDesign& design = kPlainForm)
       : forms::Form(app, design, kControls) {}
 
-  void Form_Load() override {
-    if (on_load) on_load();
-  }
   void Form_QueryUnload(int16_t& cancel, int16_t unload_mode) override {
     log.push_back("QueryUnload " + std::to_string(unload_mode));
     if (on_query_unload) on_query_unload(cancel, unload_mode);
@@ -64,7 +61,6 @@ class TestForm final : public forms::Form {
   }
 
   std::vector<std::string> log;
-  std::function<void()> on_load;
   std::function<void(int16_t&, int16_t)> on_query_unload;
   std::function<void(int16_t&)> on_unload;
 };

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "installation_tree.h"
-#include "platform/country_file_format.h"
 #include "support/test_files.h"
 
 namespace nvrandom {
@@ -53,7 +52,9 @@ class CountriesCommandTest : public ::testing::Test {
 
 // The sample list comes back whole through list and decipher; the enciphered file does not show
 // the rows' text, and enciphering it again gives other bytes (a fresh nonce) that read the same.
-TEST_F(CountriesCommandTest, RoundTripsTheSampleFile) {
+// A changed byte is refused with the command's message and nothing is written for decipher (any
+// byte, any cut: fuzz_country_file).
+TEST_F(CountriesCommandTest, RoundTripsTheSampleFileAndRefusesATamperedOne) {
   const CommandRun list = Countries({"list", sealed_.string()});
   EXPECT_EQ(list.code, 0) << list.err;
   EXPECT_EQ(WithoutCr(list.out), scenario::SampleCountries());
@@ -65,32 +66,16 @@ TEST_F(CountriesCommandTest, RoundTripsTheSampleFile) {
   ASSERT_EQ(Countries({"encipher", plain_.string(), copy.string()}).code, 0);
   EXPECT_NE(testing::ReadFile(copy), sealed_bytes_);
   EXPECT_EQ(Countries({"list", copy.string()}).out, list.out);
-}
 
-// A changed byte or a file cut short is refused (any byte, any cut: fuzz_country_file), with
-// the command's message, and nothing is written for decipher.
-TEST_F(CountriesCommandTest, RefusesTamperedFiles) {
-  const struct {
-    const char* what;
-    std::string bytes;
-  } cases[] = {
-      {"a changed tag", sealed_bytes_.substr(0, sealed_bytes_.size() - 1) +
-                            static_cast<char>(sealed_bytes_.back() ^ 0x01)},
-      {"header only", sealed_bytes_.substr(0, country_file::kHeaderSize)},
-      {"empty", ""},
-  };
-  for (const auto& c : cases) {
-    Write(sealed_, c.bytes);
-    const CommandRun list = Countries({"list", sealed_.string()});
-    EXPECT_EQ(list.code, 1) << c.what;
-    EXPECT_EQ(list.out, "") << c.what;
-    EXPECT_NE(list.err.find("is not an intact enciphered country file"), std::string::npos)
-        << c.what;
-    const auto copy = folder_.path() / "copy.csv";
-    EXPECT_EQ(Countries({"decipher", sealed_.string(), copy.string()}).code, 1) << c.what;
-    EXPECT_FALSE(std::filesystem::exists(copy)) << c.what;
-  }
-  EXPECT_EQ(Countries({"list", (folder_.path() / "missing").string()}).code, 1);
+  std::filesystem::remove(copy);
+  Write(sealed_, sealed_bytes_.substr(0, sealed_bytes_.size() - 1) +
+                     static_cast<char>(sealed_bytes_.back() ^ 0x01));
+  const CommandRun refused = Countries({"list", sealed_.string()});
+  EXPECT_EQ(refused.code, 1);
+  EXPECT_EQ(refused.out, "");
+  EXPECT_NE(refused.err.find("is not an intact enciphered country file"), std::string::npos);
+  EXPECT_EQ(Countries({"decipher", sealed_.string(), copy.string()}).code, 1);
+  EXPECT_FALSE(std::filesystem::exists(copy));
 }
 
 }  // namespace

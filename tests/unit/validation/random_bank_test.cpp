@@ -203,34 +203,27 @@ TEST_F(RandomBankTest, OnlyWhatPassesTheLocalRulesReachesTheVerifier) {
   }
 }
 
-// Whatever the verifier answers is passed on (the bank id and account checks' answers and
-// messages: checks_bank.scn, and registered_verifier.scn under Wine); a business number is
-// accepted on any answer but 0, and its refusal shows nothing.
+// Whatever the verifier answers is passed on, with its message and the message's length (the
+// bank id and account checks' answers: checks_bank.scn, and registered_verifier.scn under Wine);
+// a doubtful bank id keeps the old search id (a valid one takes the verifier's new one, under
+// Wine); a business number is accepted on any answer but 0, and its refusal shows nothing.
 TEST_F(RandomBankTest, TheVerifiersAnswerIsPassedOn) {
-  script.result = 7;
-  script.message = "from verifier";
-  std::string message;
-  EXPECT_EQ(Random(h.ctx).VerifyAccount("001", "AB12", message), 7);
-  EXPECT_EQ(message, "from verifier");
-  EXPECT_EQ(Random(h.ctx).VerifyBusinessNumber("987654321"), kTrue);
-  script.result = 0;
-  EXPECT_EQ(Random(h.ctx).VerifyBusinessNumber("987654321"), kFalse);
-  EXPECT_TRUE(h.boxes.shown.empty());
-}
-
-// A doubtful bank id keeps the old search id. (A valid one takes the verifier's new one:
-// registered_verifier.scn under Wine.)
-TEST_F(RandomBankTest, ADoubtfulBankIdKeepsTheSearchId) {
   h.ctx.store.BillerSearchNorvikID = "OLD";
   script.result = 3;
   script.message = "doubtful";
   std::string message;
   int16_t length = 0;
   EXPECT_EQ(Random(h.ctx).ValidateBankId("123", message, length), 3);
-  EXPECT_EQ(message, "doubtful");
-  EXPECT_EQ(length, 8);
-  EXPECT_EQ(h.ctx.store.BillerSearchNorvikID, "OLD");
+  EXPECT_EQ(message + " " + std::to_string(length), "doubtful 8");
   EXPECT_EQ(LastCall(), "ValidateBankId [123]");
+  EXPECT_EQ(h.ctx.store.BillerSearchNorvikID, "OLD");
+  message.clear();
+  EXPECT_EQ(Random(h.ctx).VerifyAccount("001", "AB12", message), 3);
+  EXPECT_EQ(message, "doubtful");
+  EXPECT_EQ(Random(h.ctx).VerifyBusinessNumber("987654321"), kTrue);
+  script.result = 0;
+  EXPECT_EQ(Random(h.ctx).VerifyBusinessNumber("987654321"), kFalse);
+  EXPECT_TRUE(h.boxes.shown.empty());
 }
 
 // A verifier that cannot be created, or none at all, is reported (box and error log) by the

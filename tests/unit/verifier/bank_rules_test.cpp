@@ -4,9 +4,12 @@
 
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/account_verifier.h"
 #include "verifier/builtin_bank_check_library.h"
+#include "verifier/institution_data.h"
+#include "verifier/institution_table.h"
 
 namespace nvrandom::verifier {
 namespace {
@@ -29,10 +32,8 @@ TEST(BankRules, AnswerAsThePublishedExamplesAndSayWhy) {
       {"002", "12345", "1234567", kToBeConfirmed, ""},
       {"002", "12345", "123456789123", kToBeConfirmed, ""},
       {"002", "12345", "12345678", kRefused, "Bank of Nova Scotia has 7 or 12 digits"},
-      // WT: a transit has 5 digits, not all zeros, whoever the institution
+      // WT: a transit has 5 digits, not all zeros
       {"001", "123456", "1234567", kRefused, "5 digits"},
-      {"789", "12345", "1234567", kToBeConfirmed, ""},
-      {"003", "1234A", "1234567", kRefused, "5 digits"},
       {"003", "00000", "1234567", kRefused, "00000"},
       // WT: Central 1 (828) at a 10XXX transit; CS names credit unions of 828 at transits
       // outside 10XXX, so any five digits pass (checks_bank.scn)
@@ -62,7 +63,6 @@ TEST(BankRules, AnswerAsThePublishedExamplesAndSayWhy) {
       {"003", "12345", "0000000", kRefused, "all zeros"},
       // a malformed bank id is refused before anything else
       {"123456", "12345", "1234567", kRefused, "3 digits"},
-      {"0 01", "12345", "1234567", kRefused, "digits only"},
       // the registry has no branches: the transit is not looked at
       {std::string(kBusinessNumberBankId), "", "046454286RT0001", kValid, ""},
   };
@@ -71,32 +71,6 @@ TEST(BankRules, AnswerAsThePublishedExamplesAndSayWhy) {
     const CheckOutcome outcome = CheckBankAccount(row.bank_id, row.transit, row.account);
     EXPECT_EQ(outcome.result, row.result) << outcome.message;
     EXPECT_NE(outcome.message.find(row.message_part), std::string::npos) << outcome.message;
-  }
-}
-
-// Institutions of the public lists (keyed by source), with the name found; an empty name when
-// none is. That every row of the compiled-in table is found by its number is the table's own test.
-TEST(BankRules, KnowTheInstitutionsOfThePublicLists) {
-  struct Row {
-    std::string source, bank_id;
-    int16_t result;
-    std::string name;
-  };
-  const Row rows[] = {
-      {"CT", "001", kValid, "Bank of Montreal"},
-      {"CT", "010", kValid, "Canadian Imperial Bank of Commerce"},
-      {"CT", "1234", kRefused, ""},
-      // CS, SM: 328 is Citibank, N.A. (260, Citibank Canada, is named in checks_bank.scn)
-      {"CS SM", "328", kValid, "Citibank, N.A."},
-      // GT's 0036 is nobody's number: well-formed, so doubtful
-      {"GT", "0036", kDoubtful, ""},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.source + " " + row.bank_id);
-    const CheckOutcome outcome = CheckBankId(row.bank_id);
-    EXPECT_EQ(outcome.result, row.result) << outcome.message;
-    const Institution* found = ReadBankId(row.bank_id).institution;
-    EXPECT_EQ(found != nullptr ? std::string(found->name) : "", row.name);
   }
 }
 
@@ -148,6 +122,62 @@ TEST(BankCheckLibrary, WritesItsMessageIntoTheCallersBuffer) {
             kToBeConfirmed);
   EXPECT_EQ(length, 0);
   EXPECT_EQ(clean, std::string(256, ' '));
+}
+
+TEST(InstitutionTable, TheCompiledInFileReadsWithoutErrors) {
+  const InstitutionTable table = ReadInstitutionTable(kInstitutionsCsv, kInstitutionSourcesCsv);
+  EXPECT_EQ(table.errors, std::vector<std::string>{});
+  // What the public lists name together, and the business-number registry.
+  EXPECT_GE(table.rows.size(), 120u);
+  ASSERT_EQ(KnownInstitutions().size(), table.rows.size());
+  for (const Institution& row : KnownInstitutions()) {
+    EXPECT_EQ(FindInstitution(row.number), &row) << row.number;
+  }
+  EXPECT_EQ(FindInstitution("005"), nullptr);
+  EXPECT_EQ(FindInstitution(""), nullptr);
+  EXPECT_EQ(FindInstitution("0010"), nullptr);
+}
+
+constexpr std::string_view kSources = "key,repository\nAA,one/list\nBB,other/list\n";
+constexpr std::string_view kHeading = "number,name,accounts,sources,read,notes\n";
+
+// A well-formed row is kept; another is left out, its line named and what is wrong with it said.
+TEST(InstitutionTable, KeepsAWellFormedRowAndSaysWhatIsWrongWithAnother) {
+  const std::pair<std::string, std::string> rows[] = {
+      {"001,Bank,7,AA,2026-11-22,", ""},
+      {"001,\"Bank, N.A.\",7|12,AA BB,2026-11-22,\"a note, quoted\"", ""},
+      {"828,Central,5-12|14,AA,2026-11-22,", ""},
+      {std::string(kBusinessNumberBankId) + ",Registry,business-number,AA,2026-11-22,", ""},
+      // fields
+      {"001,Bank,7,AA,2026-11-22", "6 fields expected, 5 found"},
+      {"001,\"Bank,7,AA,2026-11-22,", "unbalanced quotes"},
+      // numbers: three digits, six for the registry
+      {"01,Bank,7,AA,2026-11-22,", "3 digits"},
+      {"001,Registry,business-number,AA,2026-11-22,", "6 digits"},
+      // lengths from 1 to 30
+      {"001,Bank,31,AA,2026-11-22,", "account lengths"},
+      // names: printable ASCII, as the hosts show them
+      {"001,Qu\xC3\xA9"
+       "bec,7,AA,2026-11-22,",
+       "printable ASCII"},
+      // every fact has a listed source and the date it was read
+      {"001,Bank,7,,2026-11-22,", "no source"},
+      {"001,Bank,7,AA CC,2026-11-22,", "unknown source CC"},
+      {"001,Bank,7,AA,22/11/2026,", "YYYY-MM-DD"},
+  };
+  for (const auto& [line, error] : rows) {
+    SCOPED_TRACE(line);
+    const InstitutionTable table =
+        ReadInstitutionTable(std::string(kHeading) + line + "\n", kSources);
+    EXPECT_EQ(table.rows.size(), error.empty() ? 1u : 0u);
+    if (error.empty()) {
+      EXPECT_EQ(table.errors, std::vector<std::string>{});
+    } else {
+      ASSERT_EQ(table.errors.size(), 1u);
+      EXPECT_EQ(table.errors[0].rfind("line 2: ", 0), 0u) << table.errors[0];
+      EXPECT_NE(table.errors[0].find(error), std::string::npos) << table.errors[0];
+    }
+  }
 }
 
 }  // namespace
