@@ -1,60 +1,27 @@
 // Access keys: Alt with the letter a caption marks acts on that control, or leads the focus into
 // a frame. The dialogs mark only buttons and option buttons (access_keys.scn); a label leading to
 // the input it names, and a check box, are the Qt view's tests; frames, repeated keys and keys
-// that go unanswered are this form's.
+// that go unanswered are the test form's.
 #include <gtest/gtest.h>
 
-#include <array>
-#include <memory>
 #include <string>
 
 #include "forms/access_keys.h"
-#include "forms/application.h"
-#include "forms/form.h"
 #include "forms/keystroke.h"
 #include "forms/user_input.h"
-#include "platform/memory_clipboard.h"
+#include "test_form.h"
 
 namespace nvrandom::forms_test {
 namespace {
 
-using K = forms::ControlKind;
 constexpr int16_t kAlt = forms::keys::kAltMask;
 
-// fraChoice's first tab stop is optNo. cmdSave and cmdSend share S; cmdHidden is hidden.
-constexpr std::array<forms::ControlDesign, 7> kControls = {{
-    {.kind = K::kTextBox, .name = "txtOther", .tab_index = 1},
-    {.kind = K::kFrame, .name = "fraChoice", .caption = "&Choice"},
-    {.kind = K::kOptionButton,
-     .name = "optYes",
-     .container = "fraChoice",
-     .caption = "&Yes",
-     .tab_index = 3},
-    {.kind = K::kOptionButton,
-     .name = "optNo",
-     .container = "fraChoice",
-     .caption = "N&o",
-     .tab_index = 2},
-    {.kind = K::kCommandButton, .name = "cmdSave", .caption = "&Save", .tab_index = 5},
-    {.kind = K::kCommandButton, .name = "cmdSend", .caption = "&Send", .tab_index = 6},
-    {.kind = K::kCommandButton,
-     .name = "cmdHidden",
-     .caption = "&Hidden",
-     .tab_index = 7,
-     .visible = false},
-}};
-
-constexpr forms::FormDesign kDesign{.name = "frmAccess", .caption = "Access"};
-
-class AccessForm final : public forms::Form {
- public:
-  explicit AccessForm(forms::Application& app) : forms::Form(app, kDesign, kControls) {
-    for (const char* name : {"optYes", "optNo", "cmdSave", "cmdSend"}) {
-      On(name).Click = [this, name] { clicks += std::string(name) + " "; };
-    }
+// The Clicks of the controls that have access keys, as "NAME ".
+void LogClicks(Harness& h, std::string& clicks) {
+  for (const char* name : {"optA", "optB", "chkFlag", "cmdGo"}) {
+    h.C(name).events.Click = [&clicks, name] { clicks += std::string(name) + " "; };
   }
-  std::string clicks;
-};
+}
 
 TEST(AccessKeys, TheMarkedLetter) {
   const std::pair<const char*, char> cases[] = {
@@ -64,62 +31,61 @@ TEST(AccessKeys, TheMarkedLetter) {
   for (const auto& [caption, key] : cases) EXPECT_EQ(forms::AccessKeyOf(caption), key) << caption;
 }
 
-// Each row: from txtOther's focus, the keys pressed with Alt; where the focus is after each, the
-// Clicks raised, and what the form did beforehand.
+// Each row: from txtInner's focus, the keys pressed with Alt; where the focus is after each, the
+// Clicks raised, and what was done beforehand.
 TEST(AccessKeys, ActOnTheMarkedControl) {
   struct Case {
     const char* what;
     const char* keys;
     const char* focus;  // after each key
     const char* clicks;
-    void (*before)(forms::Form&) = nullptr;
+    void (*before)(Harness&) = nullptr;
   };
   const Case cases[] = {
-      {"a frame leads to its first tab stop", "C", "optNo", ""},
-      {"an option button is selected", "Y", "optYes", "optYes "},
-      {"a repeated key only moves among its controls, wrapping", "SSS", "cmdSave cmdSend cmdSave",
+      {"a frame leads to its first tab stop", "M", "txtName", ""},
+      {"an option button is selected", "A", "optA", "optA "},
+      {"a repeated key only moves on among its controls, wrapping", "GGG", "cmdGo chkFlag cmdGo",
        ""},
-      {"a hidden control does not answer", "H", "txtOther", ""},
-      {"nor does a control in a disabled frame", "Y", "txtOther", "",
-       [](forms::Form& f) { f.Ctl("fraChoice").SetEnabled(false); }},
-      {"a key no caption marks does nothing", "Z", "txtOther", ""},
-      {"the only control left with a key is pressed", "S", "cmdSend", "cmdSend ",
-       [](forms::Form& f) { f.Ctl("cmdSave").SetEnabled(false); }},
+      {"a hidden control does not answer", "B", "txtInner", "",
+       [](Harness& h) { h.C("optB").SetVisible(false); }},
+      {"nor does a control in a disabled frame", "A", "txtInner", "",
+       [](Harness& h) { h.C("fraMain").SetEnabled(false); }},
+      {"a key no caption marks does nothing", "Z", "txtInner", ""},
+      {"the only control left with a key is pressed", "G", "cmdGo", "cmdGo ",
+       [](Harness& h) { h.C("chkFlag").SetEnabled(false); }},
   };
   for (const Case& row : cases) {
     SCOPED_TRACE(row.what);
-    MemoryClipboard clipboard;
-    forms::Application app(clipboard);
-    auto form = std::make_shared<AccessForm>(app);
-    form->Show();
-    if (row.before != nullptr) row.before(*form);
-    forms::user::Focus(form->Ctl("txtOther"));
+    ShownHarness h;
+    std::string clicks;
+    LogClicks(h, clicks);
+    if (row.before != nullptr) row.before(h);
+    forms::user::Focus(h.C("txtInner"));
     std::string seen;
     for (const char* key = row.keys; *key != '\0'; ++key) {
-      forms::Control& focused = *app.Focused();
-      forms::user::KeyDown(focused, *key, kAlt);
-      seen += (seen.empty() ? "" : " ") + app.Focused()->Name();
+      forms::user::KeyDown(*h.app.Focused(), *key, kAlt);
+      seen += (seen.empty() ? "" : " ") + h.app.Focused()->Name();
     }
     EXPECT_EQ(seen, row.focus);
-    EXPECT_EQ(form->clicks, row.clicks);
+    EXPECT_EQ(clicks, row.clicks);
   }
 }
 
 // The key is the focused control's first: a KeyDown handler that cancels it, or Control with
 // Alt (AltGr, which types characters), leaves the captions alone.
 TEST(AccessKeys, ACancelledKeyOrAltGrIsNoAccessKey) {
-  MemoryClipboard clipboard;
-  forms::Application app(clipboard);
-  auto form = std::make_shared<AccessForm>(app);
-  form->Show();
-  forms::Control& other = form->Ctl("txtOther");
-  other.events.KeyDown = [](int16_t& key, int16_t&) { key = key == 'Y' ? 0 : key; };
-  forms::user::KeyDown(other, 'Y', kAlt);
-  forms::user::KeyDown(other, 'O', kAlt | forms::keys::kCtrlMask);
-  EXPECT_EQ(app.Focused(), &other);
-  EXPECT_EQ(form->clicks, "");
-  forms::user::KeyDown(other, 'O', kAlt | forms::keys::kShiftMask);
-  EXPECT_EQ(form->clicks, "optNo ");
+  ShownHarness h;
+  std::string clicks;
+  LogClicks(h, clicks);
+  forms::Control& inner = h.C("txtInner");
+  forms::user::Focus(inner);
+  inner.events.KeyDown = [](int16_t& key, int16_t&) { key = key == 'A' ? 0 : key; };
+  forms::user::KeyDown(inner, 'A', kAlt);
+  forms::user::KeyDown(inner, 'B', kAlt | forms::keys::kCtrlMask);
+  EXPECT_EQ(h.app.Focused(), &inner);
+  EXPECT_EQ(clicks, "");
+  forms::user::KeyDown(inner, 'B', kAlt | forms::keys::kShiftMask);
+  EXPECT_EQ(clicks, "optB ");
 }
 
 }  // namespace

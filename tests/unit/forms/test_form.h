@@ -19,25 +19,38 @@ using forms::ControlDesign;
 using K = forms::ControlKind;
 
 // fraMain holds two text boxes, a check box and two option buttons; fraOther holds, inside
-// fraInner, a third text box; an image array and a button sit on the form.
+// fraInner, a third text box; an image array and a button sit on the form. The check box and the
+// button share the access key G.
 inline constexpr std::array<ControlDesign, 15> kControls = {{
-    {.kind = K::kFrame, .name = "fraMain", .caption = "Main"},
+    {.kind = K::kFrame, .name = "fraMain", .caption = "&Main"},
     {.kind = K::kTextBox,
      .name = "txtName",
      .container = "fraMain",
      .max_length = 5,
      .tab_index = 0},
     {.kind = K::kTextBox, .name = "txtCode", .container = "fraMain", .tab_index = 1},
-    {.kind = K::kCheckBox, .name = "chkFlag", .container = "fraMain", .tab_index = 2},
-    {.kind = K::kOptionButton, .name = "optA", .container = "fraMain", .tab_index = 3},
-    {.kind = K::kOptionButton, .name = "optB", .container = "fraMain", .tab_index = 4},
+    {.kind = K::kCheckBox,
+     .name = "chkFlag",
+     .container = "fraMain",
+     .caption = "&Go",
+     .tab_index = 2},
+    {.kind = K::kOptionButton,
+     .name = "optA",
+     .container = "fraMain",
+     .caption = "&A",
+     .tab_index = 3},
+    {.kind = K::kOptionButton,
+     .name = "optB",
+     .container = "fraMain",
+     .caption = "&B",
+     .tab_index = 4},
     {.kind = K::kFrame, .name = "fraOther"},
     {.kind = K::kFrame, .name = "fraInner", .container = "fraOther"},
     {.kind = K::kTextBox, .name = "txtInner", .container = "fraInner", .tab_index = 5},
     {.kind = K::kImage, .name = "imgHelp", .index = 0},
     {.kind = K::kImage, .name = "imgHelp", .index = 1},
     {.kind = K::kImage, .name = "imgHelp", .index = 2},
-    {.kind = K::kCommandButton, .name = "cmdGo", .caption = "Go", .tab_index = 7},
+    {.kind = K::kCommandButton, .name = "cmdGo", .caption = "&Go", .tab_index = 7},
     {.kind = K::kComboBox, .name = "cboKind", .tab_index = 8},
     {.kind = K::kDataList, .name = "dlCountry", .tab_index = 9},
 }};

@@ -99,24 +99,15 @@ TEST(Luhn, RefusesWhatIsNoNumber) {
   EXPECT_TRUE(LuhnValid(std::string(1 << 20, '0')));
 }
 
+// The message goes into the caller's fixed-length buffer, cut to its room; a good account leaves
+// the buffer as it was. (Whole messages and their lengths: biller_accept_address_bank.scn.)
 TEST(BankCheckLibrary, WritesItsMessageIntoTheCallersBuffer) {
   BuiltinBankCheckLibrary library;
-  std::string buffer(256, ' ');
-  int32_t length = -1;
-  EXPECT_EQ(library.Check_bank_account2("003", "12345", "12", buffer, length, false), kRefused);
-  ASSERT_GT(length, 0);
-  EXPECT_EQ(buffer.size(), 256u);
-  EXPECT_EQ(buffer.substr(0, static_cast<size_t>(length)),
-            CheckBankAccount("003", "12345", "12").message);
-  EXPECT_EQ(buffer.find_first_not_of(' ', static_cast<size_t>(length)), std::string::npos);
-
-  // A buffer too small for the message takes what fits.
   std::string small(5, ' ');
-  library.Check_bank_account2("003", "12345", "12", small, length, false);
+  int32_t length = -1;
+  EXPECT_EQ(library.Check_bank_account2("003", "12345", "12", small, length, false), kRefused);
   EXPECT_EQ(length, 5);
   EXPECT_EQ(small, CheckBankAccount("003", "12345", "12").message.substr(0, 5));
-
-  // A good account leaves the buffer blank.
   std::string clean(256, ' ');
   EXPECT_EQ(library.Check_bank_account2("003", "12345", "1234567", clean, length, false),
             kToBeConfirmed);
