@@ -1,17 +1,28 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "api/cls_random.h"
 #include "app/headless_services.h"
 #include "component/context.h"
 #include "forms/application.h"
+#include "forms/form.h"
 #include "platform/path.h"
-#include "support/scripted_driver.h"
 #include "support/test_files.h"
 #include "validation/address_rules.h"
 
 namespace nvrandom::testing {
+
+// Runs a script when a modal show starts (a person acting on the dialog); the show ends when the
+// script returns.
+class ScriptedDriver final : public forms::ModalDriver {
+ public:
+  void RunModal(forms::Form& form) override {
+    if (script) script(form);
+  }
+  std::function<void(forms::Form&)> script;
+};
 
 // A path written with "/" in the platform's separator.
 inline std::string P(std::string text) {

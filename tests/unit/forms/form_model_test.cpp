@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <functional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "forms/user_input.h"
@@ -202,31 +203,19 @@ TEST(ControlEvents, ValueFromCodeFiresClick) {
 // Control arrays are looked up by name and index; a wrong index or a missing name raises the
 // platform's errors instead of handing back some other control.
 TEST(ControlEvents, ControlArraysAreLookedUpByIndex) {
-  struct Case {
-    const char* name;
-    int index;
-    int error;  // 0: found
-  };
-  const Case cases[] = {
-      {"imgHelp", 0, 0},       {"imgHelp", 2, 0},
-      {"imgHelp", 3, 730},     {"imgHelp", -1, 424},  // the array itself is not a control
-      {"txtName", 0, 730},                            // not an array
-      {"txtMissing", -1, 424},
-  };
   Harness h;
-  for (const Case& row : cases) {
-    SCOPED_TRACE(std::string(row.name) + "(" + std::to_string(row.index) + ")");
-    if (row.error == 0) {
-      forms::Control& c = h.C(row.name, row.index);
-      EXPECT_EQ(c.Index(), row.index);
-      EXPECT_EQ(c.FullName(), std::string(row.name) + "(" + std::to_string(row.index) + ")");
-    } else {
-      try {
-        h.C(row.name, row.index);
-        ADD_FAILURE() << "no error raised";
-      } catch (const RuntimeError& e) {
-        EXPECT_EQ(e.number(), row.error);
-      }
+  EXPECT_EQ(h.C("imgHelp", 2).FullName(), "imgHelp(2)");
+  const std::tuple<const char*, int, int> wrong[] = {
+      {"imgHelp", 3, 730},
+      {"imgHelp", -1, 424},  // the array itself is not a control
+      {"txtName", 0, 730},   // not an array
+      {"txtMissing", -1, 424}};
+  for (const auto& [name, index, error] : wrong) {
+    try {
+      h.C(name, index);
+      ADD_FAILURE() << name << "(" << index << "): no error raised";
+    } catch (const RuntimeError& e) {
+      EXPECT_EQ(e.number(), error) << name << "(" << index << ")";
     }
   }
 }

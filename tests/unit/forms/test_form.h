@@ -11,7 +11,7 @@
 #include "forms/control.h"
 #include "forms/form.h"
 #include "platform/memory_clipboard.h"
-#include "support/scripted_driver.h"
+#include "support/test_host.h"
 
 namespace nvrandom::forms_test {
 
