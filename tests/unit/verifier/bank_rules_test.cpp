@@ -129,47 +129,5 @@ TEST(InstitutionTable, TheCompiledInFileReadsWithoutErrors) {
   EXPECT_EQ(FindInstitution("0010"), nullptr);
 }
 
-constexpr std::string_view kSources = "key,repository\nAA,one/list\nBB,other/list\n";
-constexpr std::string_view kHeading = "number,name,accounts,sources,read,notes\n";
-
-// A well-formed row is kept; another is left out, its line named and what is wrong with it said.
-TEST(InstitutionTable, KeepsAWellFormedRowAndSaysWhatIsWrongWithAnother) {
-  const std::pair<std::string, std::string> rows[] = {
-      {"001,Bank,7,AA,2026-11-22,", ""},
-      {"001,\"Bank, N.A.\",7|12,AA BB,2026-11-22,\"a note, quoted\"", ""},
-      {"828,Central,5-12|14,AA,2026-11-22,", ""},
-      {std::string(kBusinessNumberBankId) + ",Registry,business-number,AA,2026-11-22,", ""},
-      // fields
-      {"001,Bank,7,AA,2026-11-22", "6 fields expected, 5 found"},
-      {"001,\"Bank,7,AA,2026-11-22,", "unbalanced quotes"},
-      // numbers: three digits, six for the registry
-      {"01,Bank,7,AA,2026-11-22,", "3 digits"},
-      {"001,Registry,business-number,AA,2026-11-22,", "6 digits"},
-      // lengths from 1 to 30
-      {"001,Bank,31,AA,2026-11-22,", "account lengths"},
-      // names: printable ASCII, as the hosts show them
-      {"001,Qu\xC3\xA9"
-       "bec,7,AA,2026-11-22,",
-       "printable ASCII"},
-      // every fact has a listed source and the date it was read
-      {"001,Bank,7,,2026-11-22,", "no source"},
-      {"001,Bank,7,AA CC,2026-11-22,", "unknown source CC"},
-      {"001,Bank,7,AA,22/11/2026,", "YYYY-MM-DD"},
-  };
-  for (const auto& [line, error] : rows) {
-    SCOPED_TRACE(line);
-    const InstitutionTable table =
-        ReadInstitutionTable(std::string(kHeading) + line + "\n", kSources);
-    EXPECT_EQ(table.rows.size(), error.empty() ? 1u : 0u);
-    if (error.empty()) {
-      EXPECT_EQ(table.errors, std::vector<std::string>{});
-    } else {
-      ASSERT_EQ(table.errors.size(), 1u);
-      EXPECT_EQ(table.errors[0].rfind("line 2: ", 0), 0u) << table.errors[0];
-      EXPECT_NE(table.errors[0].find(error), std::string::npos) << table.errors[0];
-    }
-  }
-}
-
 }  // namespace
 }  // namespace nvrandom::verifier
