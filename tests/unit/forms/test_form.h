@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "forms/application.h"
@@ -18,35 +19,25 @@ namespace nvrandom::forms_test {
 using forms::ControlDesign;
 using K = forms::ControlKind;
 
+// A control inside `frame`.
+constexpr ControlDesign In(std::string_view frame, ControlDesign design) {
+  design.container = frame;
+  return design;
+}
+
 // fraMain holds two text boxes, a check box and two option buttons; fraOther holds, inside
 // fraInner, a third text box; an image array and a button sit on the form. The check box and the
 // button share the access key G.
 inline constexpr std::array<ControlDesign, 15> kControls = {{
     {.kind = K::kFrame, .name = "fraMain", .caption = "&Main"},
-    {.kind = K::kTextBox,
-     .name = "txtName",
-     .container = "fraMain",
-     .max_length = 5,
-     .tab_index = 0},
-    {.kind = K::kTextBox, .name = "txtCode", .container = "fraMain", .tab_index = 1},
-    {.kind = K::kCheckBox,
-     .name = "chkFlag",
-     .container = "fraMain",
-     .caption = "&Go",
-     .tab_index = 2},
-    {.kind = K::kOptionButton,
-     .name = "optA",
-     .container = "fraMain",
-     .caption = "&A",
-     .tab_index = 3},
-    {.kind = K::kOptionButton,
-     .name = "optB",
-     .container = "fraMain",
-     .caption = "&B",
-     .tab_index = 4},
+    In("fraMain", {.kind = K::kTextBox, .name = "txtName", .max_length = 5, .tab_index = 0}),
+    In("fraMain", {.kind = K::kTextBox, .name = "txtCode", .tab_index = 1}),
+    In("fraMain", {.kind = K::kCheckBox, .name = "chkFlag", .caption = "&Go", .tab_index = 2}),
+    In("fraMain", {.kind = K::kOptionButton, .name = "optA", .caption = "&A", .tab_index = 3}),
+    In("fraMain", {.kind = K::kOptionButton, .name = "optB", .caption = "&B", .tab_index = 4}),
     {.kind = K::kFrame, .name = "fraOther"},
-    {.kind = K::kFrame, .name = "fraInner", .container = "fraOther"},
-    {.kind = K::kTextBox, .name = "txtInner", .container = "fraInner", .tab_index = 5},
+    In("fraOther", {.kind = K::kFrame, .name = "fraInner"}),
+    In("fraInner", {.kind = K::kTextBox, .name = "txtInner", .tab_index = 5}),
     {.kind = K::kImage, .name = "imgHelp", .index = 0},
     {.kind = K::kImage, .name = "imgHelp", .index = 1},
     {.kind = K::kImage, .name = "imgHelp", .index = 2},
