@@ -45,7 +45,6 @@ TEST(ScenarioRunner, ExitCodeAndReport) {
       {"malformed", "let PayeeName \"A\"\nfrobnicate\n", 2, ":2: unknown statement"},
       {"no_dialog", "click cmd_ok\nexpect prop PayeeName \"\"\n", 1, ":1: cmd_ok is not available"},
       {"left_open", "show remote\n", 1, ":1: frmRandomInfo is still open"},
-      {"modal_open", "show modal\n", 1, ":1: frmRandomInfo is still open"},
       {"unexpected_error", "let FormStyle \"x\"\nlet PayeeName \"A\"\n", 1,
        ":1: run-time error 13"},
   };
