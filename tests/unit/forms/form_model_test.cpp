@@ -1,6 +1,6 @@
 // The form model below what a scenario sees: what a view mirrors (one notification naming each
-// change; observers that come and go while being told), properties by name, Value from code,
-// control arrays and bindings, and how unloading is cancelled and a modal show ends.
+// change; observers that come and go while being told), Value from code, control arrays and
+// bindings, and how unloading is cancelled and a modal show ends.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -60,16 +60,6 @@ TEST(ModelNotifications, SettersNameTheirPropertiesOnce) {
     EXPECT_EQ(mirror.log, std::vector<std::string>{}) << k.control << " set again";
     h.app.RemoveObserver(&mirror);
   }
-}
-
-// A property is read or set by name only on the kinds that have it, and only with a value of its
-// type. (Names in any case, on controls and on the form: the restyle scenarios.)
-TEST(ModelNotifications, PropertiesByNameFollowTheControlsKind) {
-  Harness h;
-  forms::Control& frame = *h.form->Find("fraMain");
-  EXPECT_THROW(frame.GetProperty("BackStyle"), RuntimeError) << "BackStyle is a label's";
-  EXPECT_THROW(h.C("txtCode").GetProperty("Caption"), RuntimeError);
-  EXPECT_THROW(h.C("txtCode").SetProperty("MaxLength", std::string("3")), RuntimeError);
 }
 
 // An observer that removes another, or adds one, while being told of a change: the removed one

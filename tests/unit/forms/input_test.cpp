@@ -297,19 +297,15 @@ TEST(Focus, FocusLeavesAControlThatGoesAway) {
 // Enabled and Visible, so that enabling the frame again restores each child as it was.
 TEST(Focus, AFrameKeepsItsChildrensOwnState) {
   ShownHarness h;
-  forms::Control& frame = h.C("fraMain");
   forms::Control& code = h.C("txtCode");
-  forms::Control& check = h.C("chkFlag");
-  check.SetEnabled(false);
-  frame.SetEnabled(false);
-  frame.SetVisible(false);
-  EXPECT_TRUE(code.Enabled());
-  EXPECT_TRUE(code.Visible());
-  EXPECT_FALSE(forms::Application::Available(code));
-  frame.SetEnabled(true);
-  frame.SetVisible(true);
-  EXPECT_TRUE(forms::Application::Available(code));
-  EXPECT_FALSE(forms::Application::Available(check)) << "a child disabled on its own came back";
+  h.C("chkFlag").SetEnabled(false);
+  for (const bool on : {false, true}) {
+    h.C("fraMain").SetEnabled(on);
+    h.C("fraMain").SetVisible(on);
+    EXPECT_TRUE(code.Enabled() && code.Visible());
+    EXPECT_EQ(forms::Application::Available(code), on);
+  }
+  EXPECT_FALSE(forms::Application::Available(h.C("chkFlag"))) << "came back with its frame";
 }
 
 }  // namespace
