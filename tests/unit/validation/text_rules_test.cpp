@@ -1,12 +1,28 @@
-#include "validation/number_text.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <utility>
 
+#include "validation/address_rules.h"
+#include "validation/number_text.h"
+#include "validation/text.h"
+
 namespace nvrandom::validation {
 namespace {
+
+// Cleansing, padding and the letter test are in checks_text.scn, the properties that hold for
+// any text (lengths, kept codes, trimming) in fuzz_text; here, what neither reaches: a trim that
+// leaves other blanks alone and the counting behind the padding.
+TEST(TrimBlanks, RemovesSpacesOnly) {
+  EXPECT_EQ(TrimBlanks("\ta\t"), "\ta\t");
+}
+
+TEST(CharacterCounting, InvalidBytesCountOneEach) {
+  EXPECT_EQ(CharacterCount("a\xC3\xA9"), 2u);
+  EXPECT_EQ(CharacterCount("\xFF\xFE"), 2u);
+  EXPECT_EQ(MidCharacters("ab\u00e9cd", 2, 2), "\u00e9c");
+  EXPECT_EQ(MidCharacters("ab", 5, 2), "");
+}
 
 // A decimal point and a sign in front or behind are numeric, but not both signs nor two points;
 // blanks are not (the business number path relies on it), nor exponents or separators.
@@ -32,6 +48,23 @@ TEST(NumberText, ProgramVersionLosesItsDotsAndHasFourDigitsAtLeast) {
   for (const auto& [version, formatted] : rows) {
     EXPECT_EQ(FormatProgramVersion(version), formatted) << version;
   }
+}
+
+// The province, postal-letter and post-office-box answers are in checks_address.scn; here, the
+// word list's own reading and a street far longer than any host sends.
+TEST(PoBoxWords, EntriesAreTrimmedAndAnEmptyListFindsNothing) {
+  EXPECT_TRUE(HasPoBoxAddress("CP 12", {"  CP  "}));
+  EXPECT_FALSE(HasPoBoxAddress("CP 12", {}));
+  EXPECT_FALSE(HasPoBoxAddress("CP 12", {""}));
+}
+
+TEST(PoBoxWords, AMebibyteStreetIsJudgedByItsStart) {
+  std::string street(1 << 20, ' ');
+  street.replace(street.size() / 2, 7, "po box ");
+  street += 'x';
+  EXPECT_TRUE(HasPoBoxAddress(street, SplitPoBoxWords()));
+  street[street.size() / 2] = 'q';
+  EXPECT_FALSE(HasPoBoxAddress(street, SplitPoBoxWords()));
 }
 
 }  // namespace
