@@ -55,10 +55,14 @@ void ToHostVariant(const Variant& value, VARIANT* out) {
 
 // Answers the message boxes of this thread with their default button, recording their texts: a
 // check that fails in a test shows its message instead of waiting for a person.
+bool HasClass(HWND hwnd, std::wstring_view name) {
+  wchar_t window_class[32] = {};
+  ::GetClassNameW(hwnd, window_class, 32);
+  return name == window_class;
+}
+
 BOOL CALLBACK AnswerMessageBox(HWND hwnd, LPARAM) {
-  wchar_t window_class[16] = {};
-  ::GetClassNameW(hwnd, window_class, 16);
-  if (std::wstring_view(window_class) != L"#32770" || !::IsWindowVisible(hwnd)) return TRUE;
+  if (!HasClass(hwnd, L"#32770") || !::IsWindowVisible(hwnd)) return TRUE;
   constexpr int kMessageText = 0xFFFF;
   g_message_boxes.push_back(WindowText(::GetDlgItem(hwnd, kMessageText)));
   ::PostMessageW(hwnd, WM_COMMAND, IDOK, 0);
@@ -66,14 +70,8 @@ BOOL CALLBACK AnswerMessageBox(HWND hwnd, LPARAM) {
   return TRUE;
 }
 
-bool IsForm(HWND hwnd) {
-  wchar_t window_class[32] = {};
-  ::GetClassNameW(hwnd, window_class, 32);
-  return std::wstring_view(window_class) == L"NVRandomForm";
-}
-
 BOOL CALLBACK CloseForm(HWND hwnd, LPARAM) {
-  if (IsForm(hwnd)) ::PostMessageW(hwnd, WM_CLOSE, 0, 0);
+  if (HasClass(hwnd, L"NVRandomForm")) ::PostMessageW(hwnd, WM_CLOSE, 0, 0);
   return TRUE;
 }
 
@@ -99,21 +97,14 @@ struct Search {
   HWND found;
 };
 
-// A caption as a person reads it: "&OK" reads "OK".
-std::wstring Readable(std::wstring caption) {
-  std::erase(caption, L'&');
-  return caption;
-}
-
+// Matches a caption as a person reads it: "&OK" reads "OK".
 BOOL CALLBACK MatchCaption(HWND hwnd, LPARAM data) {
   auto* search = reinterpret_cast<Search*>(data);
-  if (Readable(WindowText(hwnd)) != search->caption || !::IsWindowVisible(hwnd)) return TRUE;
+  std::wstring caption = WindowText(hwnd);
+  std::erase(caption, L'&');
+  if (caption != search->caption || !::IsWindowVisible(hwnd)) return TRUE;
   search->found = hwnd;
   return FALSE;
-}
-
-BOOL CALLBACK MatchForm(HWND hwnd, LPARAM data) {
-  return IsForm(hwnd) ? MatchCaption(hwnd, data) : TRUE;
 }
 
 }  // namespace
@@ -126,11 +117,6 @@ STDMETHODIMP RecordingSink::QueryInterface(REFIID iid, void** out) {
   }
   *out = nullptr;
   return E_NOINTERFACE;
-}
-
-STDMETHODIMP RecordingSink::GetTypeInfoCount(UINT* count) {
-  *count = 0;
-  return S_OK;
 }
 
 STDMETHODIMP RecordingSink::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* params, VARIANT*,
@@ -187,10 +173,10 @@ HRESULT Put(IDispatch& object, DISPID id, VARIANT value, EXCEPINFO* error) {
                        error, nullptr);
 }
 
-HRESULT Get(IDispatch& object, DISPID id, OwnedVariant& result) {
+HRESULT Get(IDispatch& object, DISPID id, OwnedVariant& result, WORD flags) {
   DISPPARAMS none{nullptr, nullptr, 0, 0};
-  return object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, result.put(),
-                       nullptr, nullptr);
+  return object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &none, result.put(), nullptr,
+                       nullptr);
 }
 
 HRESULT Let(IDispatch& object, std::string_view statement) {
@@ -203,11 +189,8 @@ HRESULT Let(IDispatch& object, std::string_view statement) {
 }
 
 long Call(IDispatch& object, const wchar_t* method) {
-  DISPPARAMS none{nullptr, nullptr, 0, 0};
   OwnedVariant result;
-  const HRESULT hr = object.Invoke(Id(object, method), IID_NULL, LOCALE_USER_DEFAULT,
-                                   DISPATCH_METHOD, &none, result.put(), nullptr, nullptr);
-  if (FAILED(hr)) return -1;
+  if (FAILED(Get(object, Id(object, method), result, DISPATCH_METHOD))) return -1;
   return result.get()->vt == VT_I4 ? result.get()->lVal : 0;
 }
 
@@ -253,9 +236,8 @@ HWND FindControl(HWND form, const wchar_t* caption) {
 }
 
 HWND FindForm(const wchar_t* caption) {
-  Search search{caption, nullptr};
-  ::EnumThreadWindows(::GetCurrentThreadId(), &MatchForm, reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  const HWND form = ::FindWindowW(L"NVRandomForm", caption);
+  return form != nullptr && ::IsWindowVisible(form) ? form : nullptr;
 }
 
 void PostKey(HWND target, WPARAM virtual_key) {

@@ -5,6 +5,7 @@
 // person's input is posted to the dialog's windows.
 #include <windows.h>
 // windows.h first: the OLE headers use its types.
+#include <gtest/gtest.h>
 #include <ocidl.h>
 #include <olectl.h>
 
@@ -25,7 +26,10 @@ class RecordingSink final : public IDispatch {
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override;
   STDMETHODIMP_(ULONG) AddRef() override { return ++references; }
   STDMETHODIMP_(ULONG) Release() override { return --references; }
-  STDMETHODIMP GetTypeInfoCount(UINT* count) override;
+  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
+    *count = 0;
+    return S_OK;
+  }
   STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
   STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* params, VARIANT*, EXCEPINFO*,
@@ -76,7 +80,8 @@ class DialogHost {
 // IDispatch by name, as a late-bound host calls it.
 DISPID Id(IDispatch& object, const wchar_t* name);
 HRESULT Put(IDispatch& object, DISPID id, VARIANT value, EXCEPINFO* error = nullptr);
-HRESULT Get(IDispatch& object, DISPID id, OwnedVariant& result);
+// A property's value, or with DISPATCH_METHOD a method's result; no arguments.
+HRESULT Get(IDispatch& object, DISPID id, OwnedVariant& result, WORD flags = DISPATCH_PROPERTYGET);
 // A property set as a scenario file's `let` writes it: "PayeeName \"ACME\"", "FormStyle 2".
 HRESULT Let(IDispatch& object, std::string_view statement);
 // Calls a method without arguments; its Long result, or the failed HRESULT as -1.
@@ -92,11 +97,25 @@ extern std::wstring g_screenshots;
 // A shown control of the dialog, found as a person finds it: by its caption as it reads (access
 // key marks left out).
 HWND FindControl(HWND form, const wchar_t* caption);
-// A shown top-level form window of this thread with that caption (nullptr when none).
+// A shown top-level form window with that caption (nullptr when none).
 HWND FindForm(const wchar_t* caption);
 // Posts a key's press and release to `target`, as the keyboard would: the message loop's
 // TranslateMessage makes the character the key types.
 void PostKey(HWND target, WPARAM virtual_key);
 std::wstring WindowText(HWND hwnd);
+
+// A test as a host of NVRandom.dll: COM on the thread and the server loaded; a message box that
+// came up and was answered for the person fails the test.
+class HostTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(apartment_.usable());
+    ASSERT_TRUE(host_.loaded());
+  }
+  void TearDown() override { EXPECT_TRUE(host_.message_boxes().empty()); }
+
+  ApartmentScope apartment_;
+  DialogHost host_;
+};
 
 }  // namespace nvrandom::com::test

@@ -26,40 +26,17 @@ void Write(const fs::path& file, std::string_view data) {
   out.write(data.data(), static_cast<std::streamsize>(data.size()));
 }
 
-// An installation folder (Ω has no form in the Western code pages) holding the country file and,
-// when asked, a decipher library.
-class Installation : public ::testing::Test {
- protected:
-  void SetUp() override {
-    folder_ = fs::temp_directory_path() /
-              (L"nvrandom Instalación Ω " + std::to_wstring(::GetCurrentProcessId()));
-    fs::create_directories(folder_);
-  }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-  }
-  void InstallLibrary() {
-    fs::copy_file(fs::path(NVRANDOM_STANDINS_DIR) / "kvd8rq3x.dll", folder_ / "kvd8rq3x.dll");
-  }
-  void WriteCountryFile(std::string_view plain) {
-    const auto enciphered = country_file::Encipher(plain);
-    ASSERT_TRUE(enciphered);
-    Write(file(), *enciphered);
-  }
-  fs::path file() const { return folder_ / "FXCountries"; }
-  fs::path copy() const { return folder_ / "FXCountries.dec"; }
-  std::optional<std::string> Decipher() {
-    InstalledCountryFileDecipher decipher(std::make_unique<BuiltinCountryFileDecipher>());
-    return decipher.Decipher(wide::ToUtf8(file().wstring()));
-  }
-
-  fs::path folder_;
-};
-
 // The library deciphers into a copy, read and removed at once instead of a stale one; a damaged,
-// binary or empty country file is refused like a missing one. No copy is left behind.
-TEST_F(Installation, LibraryDeciphersIntoACopyRemovedAtOnceOrRefusesTheFile) {
+// binary or empty country file is refused like a missing one. No copy is left behind. The
+// installation folder's name has an Ω, which the Western code pages cannot hold.
+TEST(InstalledDecipher, LibraryDeciphersIntoACopyRemovedAtOnceOrRefusesTheFile) {
+  const fs::path folder = fs::temp_directory_path() /
+                          (L"nvrandom Instalación Ω " + std::to_wstring(::GetCurrentProcessId()));
+  const fs::path file = folder / "FXCountries";
+  const fs::path copy = folder / "FXCountries.dec";
+  fs::create_directories(folder);
+  fs::copy_file(fs::path(NVRANDOM_STANDINS_DIR) / "kvd8rq3x.dll", folder / "kvd8rq3x.dll",
+                fs::copy_options::overwrite_existing);
   struct Case {
     const char* what;
     std::string plain;
@@ -72,19 +49,19 @@ TEST_F(Installation, LibraryDeciphersIntoACopyRemovedAtOnceOrRefusesTheFile) {
       {"binary content", std::string("Country\r\n\x01\x02\0\x7f", 13), false, std::nullopt},
       {"empty content", std::string(), false, std::nullopt},
   };
-  InstallLibrary();
   for (const Case& c : cases) {
     SCOPED_TRACE(c.what);
-    WriteCountryFile(c.plain);
-    Write(copy(), "Country,Code,Phone\r\nStale,ST,0\r\n");
-    if (c.damaged) {
-      std::fstream f(file(), std::ios::binary | std::ios::in | std::ios::out);
-      f.seekp(20);
-      f.put('#');
-    }
-    EXPECT_EQ(Decipher(), c.read);
-    EXPECT_FALSE(fs::exists(copy()));
+    std::optional<std::string> enciphered = country_file::Encipher(c.plain);
+    ASSERT_TRUE(enciphered);
+    if (c.damaged) (*enciphered)[20] ^= 1;
+    Write(file, *enciphered);
+    Write(copy, "Country,Code,Phone\r\nStale,ST,0\r\n");
+    InstalledCountryFileDecipher decipher(std::make_unique<BuiltinCountryFileDecipher>());
+    EXPECT_EQ(decipher.Decipher(wide::ToUtf8(file.wstring())), c.read);
+    EXPECT_FALSE(fs::exists(copy));
   }
+  std::error_code ignored;
+  fs::remove_all(folder, ignored);
 }
 
 }  // namespace
