@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "NVRandom_h.h"
 #include "api/class_members.h"
 
 namespace nvrandom::com::test {

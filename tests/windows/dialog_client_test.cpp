@@ -1,9 +1,18 @@
 // A host of NVRandom.dll's real dialogs: events through connection points while the person's keys
 // and clicks reach the dialog's windows, embedding by SetParent, releasing the object with the
 // dialog open, and modal shows with their own message loop (a nested dialog too).
-#include "dialog_host.h"
-// After windows.h (dialog_host.h).
+#include <windows.h>
+// windows.h first. The headers with GUIDs of their own come before initguid.h, which makes
+// NVRandom_h.h define the type library's GUIDs in this file, for the whole program.
 #include <commctrl.h>
+#include <ocidl.h>
+#include <olectl.h>
+// Defines the GUIDs of the headers after it.
+#include <initguid.h>
+// After initguid.h.
+#include "NVRandom_h.h"
+// After NVRandom_h.h.
+#include "dialog_host.h"
 
 #include <algorithm>
 #include <cstring>
