@@ -1,11 +1,17 @@
 // A C++ client of NVRandom.dll, loaded as COM loads it: the class factory and unloading, IDispatch
-// by name and by id with bad input, errors as EXCEPINFO, connection points.
+// by name and by id with bad input, errors as EXCEPINFO, connection points; and the decipher
+// library's loader, where no host can look.
 #include "dialog_host.h"
 
+#include <filesystem>
+#include <fstream>
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "api/class_members.h"
+#include "platform/country_file_cipher.h"
+#include "platform/win32/installed_country_decipher.h"
 
 namespace nvrandom::com::test {
 namespace {
@@ -134,12 +140,11 @@ TEST_F(ComClient, BadCallsGetTheirOwnResult) {
     DISPPARAMS params;
     HRESULT expected;
   };
-  // No such member, an interface id, a read of a Let-only property, two values for a put, an
+  // No such member, a read of a Let-only property, two values for a put, an
   // argument for a method without any; only a put's value may be named, and only as such; a text
   // for an Integer, which the type library's conversion refuses.
   const Row rows[] = {
       {999, IID_NULL, DISPATCH_PROPERTYGET, {}, DISP_E_MEMBERNOTFOUND},
-      {7, IID_IDispatch, DISPATCH_PROPERTYGET, {}, DISP_E_UNKNOWNINTERFACE},
       {let_only, IID_NULL, DISPATCH_PROPERTYGET, {}, DISP_E_MEMBERNOTFOUND},
       {1, IID_NULL, DISPATCH_PROPERTYPUT, {two, &put, 2, 1}, DISP_E_BADPARAMCOUNT},
       {35, IID_NULL, DISPATCH_METHOD, {two, nullptr, 1, 0}, DISP_E_BADPARAMCOUNT},
@@ -286,6 +291,51 @@ TEST_F(ComClient, ConnectionPointTakesDispatchOnlySinksAndEnumeratesASnapshot) {
   EXPECT_EQ(third.references, 1u);
   EXPECT_EQ(second.references, 1u);
   EXPECT_EQ(point->Unadvise(cookies[0]), S_OK);
+}
+
+// The installation's decipher library as the Windows build loads it, where no host can look: it
+// deciphers into a copy, read and removed at once instead of a stale one; a damaged, binary or
+// empty country file is refused like a missing one. No copy is left behind. The
+// installation folder's name has an Ω, which the Western code pages cannot hold.
+TEST(InstalledDecipher, LibraryDeciphersIntoACopyRemovedAtOnceOrRefusesTheFile) {
+  namespace fs = std::filesystem;
+  const auto write = [](const fs::path& path, std::string_view data) {
+    std::ofstream(path, std::ios::binary)
+        .write(data.data(), static_cast<std::streamsize>(data.size()));
+  };
+  constexpr std::string_view kCountries = "Country,Code,Phone\r\nFrance,FR,33\r\nPérou,PE,51\r\n";
+  const fs::path folder = fs::temp_directory_path() /
+                          (L"nvrandom Instalación Ω " + std::to_wstring(::GetCurrentProcessId()));
+  const fs::path file = folder / "FXCountries";
+  const fs::path copy = folder / "FXCountries.dec";
+  fs::create_directories(folder);
+  fs::copy_file(fs::path(NVRANDOM_STANDINS_DIR) / "kvd8rq3x.dll", folder / "kvd8rq3x.dll",
+                fs::copy_options::overwrite_existing);
+  struct Case {
+    const char* what;
+    std::string plain;
+    bool damaged;  // a byte of the enciphered file changed: the library writes nothing
+    std::optional<std::string> read;
+  };
+  const Case cases[] = {
+      {"a stale copy beside it", std::string(kCountries), false, std::string(kCountries)},
+      {"damaged file", std::string(kCountries), true, std::nullopt},
+      {"binary content", std::string("Country\r\n\x01\x02\0\x7f", 13), false, std::nullopt},
+      {"empty content", std::string(), false, std::nullopt},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    std::optional<std::string> enciphered = country_file::Encipher(c.plain);
+    ASSERT_TRUE(enciphered);
+    if (c.damaged) (*enciphered)[20] ^= 1;
+    write(file, *enciphered);
+    write(copy, "Country,Code,Phone\r\nStale,ST,0\r\n");
+    InstalledCountryFileDecipher decipher(std::make_unique<BuiltinCountryFileDecipher>());
+    EXPECT_EQ(decipher.Decipher(wide::ToUtf8(file.wstring())), c.read);
+    EXPECT_FALSE(fs::exists(copy));
+  }
+  std::error_code ignored;
+  fs::remove_all(folder, ignored);
 }
 
 }  // namespace

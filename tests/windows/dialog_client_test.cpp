@@ -152,44 +152,29 @@ TEST_F(DialogClient, AltWithAnUnderlinedLetterPressesItsControl) {
   EXPECT_NE(::GetFocus(), street);
 }
 
-TEST_F(DialogClient, DataListsDropDownATableUnderTheirColumnHeadings) {
+TEST_F(DialogClient, DataListsDropDownATableOfTheirRows) {
   const HWND country = FindControl(Show("business"), L"CA");
   ASSERT_NE(country, nullptr);
   ::SendMessageW(country, WM_LBUTTONDOWN, MK_LBUTTON, 0);
   const HWND popup = ::FindWindowW(L"NVRandomDropDown", nullptr);
   ASSERT_TRUE(popup != nullptr && ::IsWindowVisible(popup));
   const HWND table = ::GetWindow(popup, GW_CHILD);
-  wchar_t heading[16] = {};
-  LVCOLUMNW column{};
-  column.mask = LVCF_TEXT;
-  column.pszText = heading;
-  column.cchTextMax = 16;
-  ::SendMessageW(table, LVM_GETCOLUMNW, 2, reinterpret_cast<LPARAM>(&column));
-  EXPECT_STREQ(heading, L"Phone");  // the third of Country, Code, Phone
 
-  // Enter on a row chooses it: the box shows the row's code, the model's choice.
-  LVFINDINFOW find{};
-  find.flags = LVFI_STRING;
-  find.psz = L"United States";
-  const auto row = static_cast<int>(::SendMessageW(table, LVM_FINDITEMW, static_cast<WPARAM>(-1),
-                                                   reinterpret_cast<LPARAM>(&find)));
-  ASSERT_GE(row, 0);
-  LVITEMW state{};
-  state.stateMask = state.state = LVIS_SELECTED | LVIS_FOCUSED;
-  ::SendMessageW(table, LVM_SETITEMSTATE, static_cast<WPARAM>(row),
-                 reinterpret_cast<LPARAM>(&state));
+  // Enter on a row chooses it: the box shows the row's code, the model's choice. End goes to the
+  // last row of the installation's country file.
+  PostKey(table, VK_END);
   PostKey(table, VK_RETURN);
   ASSERT_TRUE(host_.PumpUntil([&] { return !::IsWindowVisible(popup); }));
-  EXPECT_EQ(WindowText(country), L"US");
+  EXPECT_EQ(WindowText(country), L"ZW");
 
   // The wheel over the closed box walks the rows as the arrow keys do, through the model.
   const auto wheel = [&](short delta) {
     ::PostMessageW(country, WM_MOUSEWHEEL, MAKEWPARAM(0, delta), 0);
   };
-  wheel(-WHEEL_DELTA);
-  ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(country) != L"US"; }));
   wheel(WHEEL_DELTA);
-  ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(country) == L"US"; }));
+  ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(country) == L"ZM"; }));
+  wheel(-WHEEL_DELTA);
+  ASSERT_TRUE(host_.PumpUntil([&] { return WindowText(country) == L"ZW"; }));
 }
 
 // Puts `text` on the clipboard, as another program would.
@@ -352,29 +337,26 @@ Capture CaptureClient(HWND window, DialogHost& host) {
   return capture;
 }
 
-bool WriteBmp(const Capture& capture, const std::wstring& path) {
-  const auto image_bytes = static_cast<DWORD>(capture.pixels.size() * 4);
-  BITMAPFILEHEADER file{};
-  file.bfType = 0x4D42;  // "BM"
-  file.bfOffBits = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER);
-  file.bfSize = file.bfOffBits + image_bytes;
-  BITMAPINFOHEADER header = DibHeader(capture);
-  header.biSizeImage = image_bytes;
-  std::ofstream out(std::filesystem::path(path), std::ios::binary);
-  out.write(reinterpret_cast<const char*>(&file), sizeof(file));
-  out.write(reinterpret_cast<const char*>(&header), sizeof(header));
-  out.write(reinterpret_cast<const char*>(capture.pixels.data()), image_bytes);
-  return static_cast<bool>(out);
-}
-
 // Under a display (--screenshots DIR): each layout of the biller dialog, the foreign bank
 // dialog and the sample cheque, drawn, of their designed size, written as BMP files.
 class Screenshots : public DialogClient {
  protected:
-  // Writes the shot, checking that a dialog was drawn, not a blank rectangle: many colours, and
-  // much of it unlike its background. The background: the colour most of the picture has.
+  // Writes the shot as a BMP file, checking that a dialog was drawn, not a blank rectangle: many
+  // colours, and much of it unlike its background. The background: the colour most of it has.
   uint32_t Save(const Capture& shot, const std::wstring& name) {
-    EXPECT_TRUE(WriteBmp(shot, g_screenshots + L"\\" + name + L".bmp"));
+    const auto image_bytes = static_cast<DWORD>(shot.pixels.size() * 4);
+    BITMAPFILEHEADER file{};
+    file.bfType = 0x4D42;  // "BM"
+    file.bfOffBits = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER);
+    file.bfSize = file.bfOffBits + image_bytes;
+    BITMAPINFOHEADER header = DibHeader(shot);
+    header.biSizeImage = image_bytes;
+    std::ofstream out(std::filesystem::path(g_screenshots + L"\\" + name + L".bmp"),
+                      std::ios::binary);
+    out.write(reinterpret_cast<const char*>(&file), sizeof(file));
+    out.write(reinterpret_cast<const char*>(&header), sizeof(header));
+    out.write(reinterpret_cast<const char*>(shot.pixels.data()), image_bytes);
+    EXPECT_TRUE(out) << "could not write " << testing::PrintToString(name);
     std::map<uint32_t, size_t> counts;
     for (const uint32_t p : shot.pixels) ++counts[p];
     const auto most = std::ranges::max_element(counts, {}, [](const auto& c) { return c.second; });
@@ -436,8 +418,19 @@ TEST_F(Screenshots, EachDialogAndLayoutIsDrawnAtItsDesignedSizeInTheHostsStyle) 
 }  // namespace
 }  // namespace nvrandom::com::test
 
-// Arguments: --install DIR (the installation folder, a Windows path), [--screenshots DIR].
+// Arguments: --install DIR (the installation folder, a Windows path), [--screenshots DIR]. Or
+// --close CAPTION: a person at a dialog of another process, who closes the shown, enabled form of
+// that caption with its close box once it comes (exit 0), or gives up after 20 s (exit 1).
 int main(int argc, char** argv) {
+  if (argc == 3 && std::string_view(argv[1]) == "--close") {
+    for (int tries = 0; tries < 200; ++tries, ::Sleep(100)) {
+      const HWND form = ::FindWindowA("NVRandomForm", argv[2]);
+      if (form != nullptr && ::IsWindowVisible(form) && ::IsWindowEnabled(form)) {
+        return ::PostMessageW(form, WM_CLOSE, 0, 0) ? 0 : 1;
+      }
+    }
+    return 1;
+  }
   ::testing::InitGoogleTest(&argc, argv);
   using nvrandom::com::test::g_install;
   using nvrandom::com::test::g_screenshots;

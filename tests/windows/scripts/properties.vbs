@@ -1,5 +1,5 @@
 ' VBScript drives NVRandom.ClsRandom by its ProgID: its own values (True, arrays of variants), and
-' ShowForm while close_dialog.exe (argument 1) closes the dialog as a person would. Wine's cscript
+' ShowForm while the C++ client (argument 1) closes the dialog as a person would. Wine's cscript
 ' exits 0 even when a script fails, so the last line "PASS properties.vbs" is what the test needs.
 Option Explicit
 Dim failures : failures = 0
@@ -24,6 +24,6 @@ o.IPCurrencyList = Array("USD", "EUR")
 
 o.DLLPath = Replace(WScript.Arguments(1), "/", "\")
 CreateObject("WScript.Shell").Run """" & Replace(WScript.Arguments(0), "/", "\") & _
-  """ ""Norvik - Biller / Funds Transfer Information""", 0, False
+  """ --close ""Norvik - Biller / Funds Transfer Information""", 0, False
 Check "ShowForm closed", o.ShowForm, 50000
 If failures = 0 Then WScript.Echo "PASS properties.vbs"
