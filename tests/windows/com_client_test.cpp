@@ -16,20 +16,14 @@
 namespace nvrandom::com::test {
 namespace {
 
-const CLSID& kClsid = CLSID_ClsRandom;
 const IID& kEvents = DIID___ClsRandom;
 
-class ComClient : public HostTest {
- protected:
-  HRESULT Factory(REFCLSID clsid, ComPtr<IClassFactory>& out) {
-    return host_.GetClassObject(clsid, IID_IClassFactory, out.put_void());
-  }
-};
+using ComClient = HostTest;
 
 TEST_F(ComClient, UnloadsOnlyWithNoObjectOrLockAlive) {
   EXPECT_EQ(host_.CanUnloadNow(), S_OK);
   ComPtr<IClassFactory> factory;
-  ASSERT_EQ(Factory(kClsid, factory), S_OK);
+  ASSERT_EQ(host_.GetClassObject(CLSID_ClsRandom, IID_IClassFactory, factory.put_void()), S_OK);
   EXPECT_EQ(host_.CanUnloadNow(), S_FALSE);
   EXPECT_EQ(factory->LockServer(TRUE), S_OK);
   ComPtr<IDispatch> object;
@@ -38,7 +32,7 @@ TEST_F(ComClient, UnloadsOnlyWithNoObjectOrLockAlive) {
   EXPECT_EQ(host_.CanUnloadNow(), S_FALSE);  // the object and the lock
   object.reset();
   EXPECT_EQ(host_.CanUnloadNow(), S_FALSE);  // the lock
-  ASSERT_EQ(Factory(kClsid, factory), S_OK);
+  ASSERT_EQ(host_.GetClassObject(CLSID_ClsRandom, IID_IClassFactory, factory.put_void()), S_OK);
   EXPECT_EQ(factory->LockServer(FALSE), S_OK);
   factory.reset();
   EXPECT_EQ(host_.CanUnloadNow(), S_OK);
@@ -46,7 +40,7 @@ TEST_F(ComClient, UnloadsOnlyWithNoObjectOrLockAlive) {
   ComPtr<IUnknown> none;
   EXPECT_EQ(host_.GetClassObject(IID_IDispatch, IID_IClassFactory, none.put_void()),
             CLASS_E_CLASSNOTAVAILABLE);
-  ASSERT_EQ(Factory(kClsid, factory), S_OK);
+  ASSERT_EQ(host_.GetClassObject(CLSID_ClsRandom, IID_IClassFactory, factory.put_void()), S_OK);
   EXPECT_EQ(factory->CreateInstance(factory.get(), IID_IUnknown, none.put_void()),
             CLASS_E_NOAGGREGATION);
   EXPECT_EQ(factory->CreateInstance(nullptr, IID_IClassFactory, none.put_void()), E_NOINTERFACE);
@@ -60,30 +54,26 @@ TEST_F(ComClient, MembersByNameHaveTheirIdsAndTextsKeepTheirCharacters) {
   ComPtr<IDispatch> object = host_.Create();
   ASSERT_TRUE(object);
   struct Member {
-    const wchar_t* name;
+    std::string name;
     DISPID id;
     bool readable_text;
   };
 #define NVRANDOM_TEST_PROPERTY(dispid, name, type, access, trace) \
-  {L## #name, dispid, std::string_view(#type #access) == "StringLetGet"},
-#define NVRANDOM_TEST_METHOD(dispid, name, result) {L## #name, dispid, false},
+  {#name, dispid, std::string_view(#type #access) == "StringLetGet"},
+#define NVRANDOM_TEST_METHOD(dispid, name, result) {#name, dispid, false},
   const Member members[] = {
       NVRANDOM_CLSRANDOM_MEMBERS(NVRANDOM_TEST_PROPERTY, NVRANDOM_TEST_METHOD)};
 #undef NVRANDOM_TEST_METHOD
 #undef NVRANDOM_TEST_PROPERTY
   for (const Member& member : members) {
-    SCOPED_TRACE(testing::PrintToString(std::wstring(member.name)));
-    ASSERT_EQ(Id(*object, member.name), member.id);
+    SCOPED_TRACE(member.name);
+    ASSERT_EQ(Id(*object, wide::FromUtf8(member.name).c_str()), member.id);
     if (!member.readable_text) continue;
-    const std::wstring text = std::wstring(member.name) + L" \u00e9\u4e2d";
-    Bstr value(text);
-    VARIANT argument{};
-    argument.vt = VT_BSTR;
-    argument.bstrVal = value.get();
-    EXPECT_EQ(Put(*object, member.id, argument), S_OK);
+    const std::string text = member.name + " \u00e9\u4e2d";
+    EXPECT_EQ(Let(*object, member.name + " \"" + text + "\""), S_OK);
     OwnedVariant result;
     ASSERT_EQ(Get(*object, member.id, result), S_OK);
-    EXPECT_STREQ(result.get()->bstrVal, text.c_str());
+    EXPECT_STREQ(result.get()->bstrVal, wide::FromUtf8(text).c_str());
   }
   EXPECT_EQ(Id(*object, L"payeename"), 7);
 }

@@ -14,9 +14,8 @@ flock 9
 if [ ! -f "$prefix/.nvrandom-ready" ]; then
   wineboot -i >/dev/null 2>&1
   if [ "$NVRANDOM_WINE_X11" = 1 ]; then
-    for value in Managed Decorated; do
-      wine reg add 'HKCU\Software\Wine\X11 Driver' /v $value /d N /f >/dev/null 2>&1
-    done
+    wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+    wine reg add 'HKCU\Software\Wine\X11 Driver' /v Decorated /d N /f >/dev/null 2>&1
   else
     wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null 2>&1
   fi
