@@ -9,28 +9,20 @@ set -e
 prefix=$(realpath -m "$1")
 shift
 export WINEPREFIX="$prefix" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+exec 9>"$prefix.lock"
+flock 9
 if [ ! -f "$prefix/.nvrandom-ready" ]; then
-  mkdir -p "$(dirname "$prefix")"
-  exec 9>"$prefix.lock"
-  flock 9
-  if [ ! -f "$prefix/.nvrandom-ready" ]; then
-    if ! command -v wine >/dev/null; then
-      echo "wine-run.sh: Wine is not installed (sudo apt-get install wine64)" >&2
-      exit 1
-    fi
-    wineboot -i >/dev/null 2>&1
-    if [ "$NVRANDOM_WINE_X11" = 1 ]; then
-      for value in Managed Decorated; do
-        wine reg add 'HKCU\Software\Wine\X11 Driver' /v $value /d N /f >/dev/null 2>&1
-      done
-    else
-      wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null 2>&1
-    fi
-    wineserver -w
-    touch "$prefix/.nvrandom-ready"
+  wineboot -i >/dev/null 2>&1
+  if [ "$NVRANDOM_WINE_X11" = 1 ]; then
+    wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+    wine reg add 'HKCU\Software\Wine\X11 Driver' /v Decorated /d N /f >/dev/null 2>&1
+  else
+    wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null 2>&1
   fi
-  exec 9>&-
+  wineserver -w
+  touch "$prefix/.nvrandom-ready"
 fi
+exec 9>&-
 # One Wine server for the whole test run: starting it (and Wine's services) anew for every
 # program costs seconds each time.
 # Its services (started with the first program) must not hold the caller's output open, or
