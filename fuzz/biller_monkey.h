@@ -57,21 +57,15 @@ class ForeignBankWatch final : public forms::FormObserver {
     app_.AddObserver(this);
   }
   ~ForeignBankWatch() override { app_.RemoveObserver(this); }
-  ForeignBankWatch(const ForeignBankWatch&) = delete;
-  ForeignBankWatch& operator=(const ForeignBankWatch&) = delete;
 
   void FormLifecycle(forms::Form& form, forms::FormEvent event) override {
     const auto* bank = dynamic_cast<const frmFXBankInfo*>(&form);
-    if (bank == nullptr) return;
-    if (event == forms::FormEvent::kShownModal) {
-      before_ = ForeignBank(store_);
-    } else if (event == forms::FormEvent::kUnloaded && before_) {
-      const bool changed = ForeignBank(store_) != *before_;
-      if (!bank->OKClicked() && changed) {
-        Violated("the foreign bank fields changed though the foreign bank dialog was not accepted");
-      }
-      before_.reset();
+    if (bank != nullptr && event == forms::FormEvent::kShownModal) before_ = ForeignBank(store_);
+    if (bank == nullptr || event != forms::FormEvent::kUnloaded || !before_) return;
+    if (!bank->OKClicked() && ForeignBank(store_) != *before_) {
+      Violated("the foreign bank fields changed though the foreign bank dialog was not accepted");
     }
+    before_.reset();
   }
 
  private:

@@ -1,9 +1,9 @@
 #pragma once
 
 // A monkey for any dialog of the form runtime: it reads a byte stream as a sequence of what a
-// person can do (focus, type, special keys, paste, mouse buttons, clicks, list choices, answers
-// to message boxes, closing) and acts on the front-most form through the one input path. After
-// each action it checks what must hold on any dialog; the dialog's own invariants are the
+// person can do (focus, type, keys, access keys, pastes, mouse buttons, clicks, list choices,
+// answers to message boxes, closing) and acts on the front-most form through the one input path.
+// After each action it checks what must hold on any dialog; the dialog's own invariants are the
 // caller's `check`. It is the application's modal driver while it lives: a dialog shown modally
 // from an action is driven by the same input, with the same checks, until it closes.
 #include <cstddef>
@@ -15,7 +15,6 @@
 #include <memory>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "app/headless_services.h"
 #include "forms/application.h"
@@ -29,14 +28,13 @@ namespace nvrandom::fuzz {
 
 class ByteReader {
  public:
-  ByteReader(const uint8_t* data, size_t size) : data_(data), size_(size) {}
-  bool done() const { return pos_ >= size_; }
-  uint8_t Next() { return pos_ < size_ ? data_[pos_++] : 0; }
+  ByteReader(const uint8_t* data, size_t size) : data_(data), end_(data + size) {}
+  bool done() const { return data_ >= end_; }
+  uint8_t Next() { return data_ < end_ ? *data_++ : 0; }
 
  private:
   const uint8_t* data_;
-  size_t size_;
-  size_t pos_ = 0;
+  const uint8_t* end_;
 };
 
 [[noreturn]] inline void Violated(const std::string& what) {
@@ -44,8 +42,9 @@ class ByteReader {
   std::abort();
 }
 
-class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver {
+class DialogMonkey final : public forms::ModalDriver {
  public:
+  using Check = std::function<void()>;
   // Modal dialogs nest at most this deep; a deeper one is closed at once.
   static constexpr int kMaxModalDepth = 4;
 
@@ -54,72 +53,42 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
                std::function<void()> reopen)
       : app_(app), boxes_(boxes), reopen_(std::move(reopen)) {
     app_.SetModalDriver(this);
-    app_.AddObserver(this);
   }
-  ~DialogMonkey() override {
-    app_.RemoveObserver(this);
-    app_.SetModalDriver(nullptr);
-  }
+  ~DialogMonkey() override { app_.SetModalDriver(nullptr); }
   DialogMonkey(const DialogMonkey&) = delete;
   DialogMonkey& operator=(const DialogMonkey&) = delete;
 
-  // Counts the presses of the form's buttons (by click, key or code): the acceptance may mask
-  // bank boxes only during an action that pressed one. Each button is wrapped once, however
-  // often its form loads; a form that outlives a monkey (a default instance) counts for the
-  // next one.
-  void CountPresses(forms::Form& form) {
-    for (const auto& control : form.Controls()) {
-      std::function<void()>& click = control->events.Click;
-      if (!forms::IsButtonKind(control->kind()) || !click) continue;
-      if (auto* counted = click.target<CountedClick>()) {
-        counted->presses = presses_;
-      } else {
-        click = CountedClick{presses_, std::move(click)};
-      }
-    }
-  }
-
-  // Every form that loads, the modal ones included, has its presses counted.
-  void FormLifecycle(forms::Form& form, forms::FormEvent event) override {
-    if (event == forms::FormEvent::kLoaded) CountPresses(form);
-  }
-
-  // A modal dialog takes the next actions of the input under way, on the front-most form, each
-  // checked as the outer ones are. When the input is used up (or the dialogs nest too deep) it
-  // is closed by its cancel button, else by code, so that nothing waits for input that never
-  // comes.
+  // A modal dialog takes the next actions of the input under way. When the input is used up (or
+  // the dialogs nest too deep) it is closed by its cancel button, else by code, so that nothing
+  // waits for input that never comes.
   void RunModal(forms::Form& form) override {
     const std::shared_ptr<forms::Form> keep = form.shared_from_this();
-    ++modal_depth_;
-    if (in_ != nullptr && check_ != nullptr && modal_depth_ <= kMaxModalDepth) {
-      const std::function<void()>& check = *check_;
-      while (Shown(form) && Step(*in_, check)) {
-      }
+    const auto shown = [&] { return form.IsLoaded() && form.Visible(); };
+    ++depth_;
+    while (in_ != nullptr && depth_ <= kMaxModalDepth && shown() && Step(*in_, *check_)) {
     }
-    if (Shown(form)) {
-      forms::Control* cancel = form.Find("cmd_cancel");
-      if (cancel != nullptr && app_.TakesInput(*cancel)) forms::user::Click(*cancel);
-    }
-    if (Shown(form)) form.Unload(forms::unload_mode::kCode);
-    --modal_depth_;
+    forms::Control* cancel = form.Find("cmd_cancel");
+    if (shown() && cancel != nullptr && app_.TakesInput(*cancel)) forms::user::Click(*cancel);
+    if (shown()) form.Unload(forms::unload_mode::kCode);
+    --depth_;
   }
 
-  // One action; false once the input is used up.
-  bool Step(ByteReader& in, const std::function<void()>& check) {
+  // One action on the front-most form (the dialog reopened if none is); false once the input is
+  // used up.
+  bool Step(ByteReader& in, const Check& check) {
     if (in.done()) return false;
+    if (app_.ActiveForm() == nullptr) reopen_();
     forms::Form* form = app_.ActiveForm();
-    if (form == nullptr) {
-      reopen_();
-      form = app_.ActiveForm();
-      if (form == nullptr) Violated("the dialog does not open again");
-    }
+    if (form == nullptr) Violated("the dialog does not open again");
     // The form outlives this action even when the action closes it.
     const std::shared_ptr<forms::Form> keep = form->shared_from_this();
-    const Masks masks = RememberMasks(*form);
-    const size_t presses = *presses_;
-    // A modal dialog this action opens goes on with the same input and checks.
+    std::map<const forms::Control*, size_t> lengths;
+    for (const auto& control : form->Controls()) {
+      if (forms::IsTextKind(control->kind()))
+        lengths[control.get()] = utf8::Length(control->Text());
+    }
     ByteReader* const outer_in = std::exchange(in_, &in);
-    const std::function<void()>* const outer_check = std::exchange(check_, &check);
+    const Check* const outer_check = std::exchange(check_, &check);
     try {
       Act(*form, in);
     } catch (const std::exception& e) {
@@ -130,7 +99,7 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
     in_ = outer_in;
     check_ = outer_check;
     ++actions_;
-    CheckCommon(masks, *presses_ != presses);
+    CheckCommon(lengths);
     check();
     return true;
   }
@@ -138,19 +107,6 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
   size_t actions() const { return actions_; }
 
  private:
-  using Masks = std::map<forms::Control*, std::pair<bool, std::string>>;
-
-  struct CountedClick {
-    std::shared_ptr<size_t> presses;
-    std::function<void()> inner;
-    void operator()() const {
-      ++*presses;
-      inner();
-    }
-  };
-
-  static bool Shown(const forms::Form& form) { return form.IsLoaded() && form.Visible(); }
-
   static std::string Text(ByteReader& in, size_t length) {
     static constexpr const char* kPieces[] = {
         "a", "Z", "0",  "7",  " ",    "\"",   "@",        ".",
@@ -161,128 +117,84 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
     return text;
   }
 
-  static forms::Control* Pick(forms::Form& form, ByteReader& in) {
-    const auto& controls = form.Controls();
-    if (controls.empty()) return nullptr;
-    const size_t index = (static_cast<size_t>(in.Next()) << 8 | in.Next()) % controls.size();
-    return controls[index].get();
-  }
+  // What one action works on: the form, the control the input picked and the input.
+  struct Turn {
+    DialogMonkey& monkey;
+    forms::Form& form;
+    forms::Control& control;
+    ByteReader& in;
+    void Click(const char* button) {
+      if (forms::Control* found = form.Find(button)) forms::user::Click(*found);
+    }
+  };
 
   void Act(forms::Form& form, ByteReader& in) {
-    const uint8_t op = in.Next();
-    forms::Control* control = Pick(form, in);
-    if (control == nullptr) return;
     namespace user = forms::user;
-    switch (op % 16) {
-      case 0:
-        user::Focus(*control);
-        break;
-      case 1:
-      case 2:
-        user::Type(*control, Text(in, in.Next() % 24));
-        break;
-      case 3: {
-        static constexpr int16_t kKeys[] = {8, 13, 22, 9, 34, 32, 3, 24, 0, 200, 127};
-        const uint8_t k = in.Next();
-        user::Key(*control, k < 200 ? kKeys[k % std::size(kKeys)] : static_cast<int16_t>(k));
-        break;
-      }
-      case 4: {
-        // Editing keys, then the access keys the dialogs mark (Alt+I, B, H, V, E, O).
-        static constexpr int16_t kDown[][2] = {
-            {46, 0}, {37, 0}, {39, 1}, {36, 0}, {35, 1}, {45, 1}, {86, 2}, {67, 2}, {88, 2},
-            {38, 0}, {40, 0}, {45, 0}, {73, 4}, {66, 4}, {72, 4}, {86, 4}, {69, 4}, {79, 4}};
-        const auto& k = kDown[in.Next() % std::size(kDown)];
-        user::KeyDown(*control, k[0], k[1]);
-        break;
-      }
-      case 5:
+    const uint8_t op = in.Next();
+    const auto& controls = form.Controls();
+    if (controls.empty()) return;
+    Turn turn{*this, form, *controls[(in.Next() << 8 | in.Next()) % controls.size()], in};
+    // Characters (Backspace, Enter, Ctrl+V, Tab, Ctrl+C, Ctrl+X and others), then keys that type
+    // none: editing keys, Shift+Insert, Ctrl+V/C/X and the access keys the dialogs mark (Alt+I,
+    // B, H, V, E, O).
+    static constexpr int16_t kChars[] = {8, 13, 22, 9, 34, 32, 3, 24, 0, 200, 127};
+    static constexpr int16_t kKeys[][2] = {{46, 0}, {37, 0}, {39, 1}, {36, 0}, {35, 1}, {45, 1},
+                                           {86, 2}, {67, 2}, {88, 2}, {38, 0}, {40, 0}, {45, 0},
+                                           {73, 4}, {66, 4}, {72, 4}, {86, 4}, {69, 4}, {79, 4}};
+    static constexpr int kAnswers[] = {msgbox::kYes, msgbox::kNo, msgbox::kOK};
+    using Action = void (*)(Turn&);
+    static constexpr Action kActions[] = {
+        [](Turn& t) { user::Focus(t.control); },
+        [](Turn& t) { user::Type(t.control, Text(t.in, t.in.Next() % 24)); },
+        [](Turn& t) { user::Type(t.control, Text(t.in, t.in.Next() % 24)); },
+        [](Turn& t) {
+          const uint8_t k = t.in.Next();
+          user::Key(t.control, k < 200 ? kChars[k % std::size(kChars)] : int16_t{k});
+        },
+        [](Turn& t) {
+          const auto& k = kKeys[t.in.Next() % std::size(kKeys)];
+          user::KeyDown(t.control, k[0], k[1]);
+        },
         // Now and then far more than any field holds.
-        user::Paste(*control, in.Next() % 8 == 0 ? std::string(10000, 'x') + Text(in, 4)
-                                                 : Text(in, in.Next() % 40));
-        break;
-      case 6:
-        user::MenuPaste(*control, Text(in, in.Next() % 40));
-        break;
-      case 7:
-        user::MouseDown(*control, static_cast<int16_t>(1 + in.Next() % 2));
-        break;
-      case 8:
-      case 9:
-        user::Click(*control);
-        break;
-      case 10:
-        if (control->ListCount() > 0) {
-          const int row = in.Next() % control->ListCount();
-          const auto& cells = control->Row(row);
-          const int column =
-              control->kind() == forms::ControlKind::kDataList ? control->BoundColumn() : 0;
-          if (column >= 0 && static_cast<size_t>(column) < cells.size()) {
-            user::Pick(*control, cells[static_cast<size_t>(column)]);
-          }
-        }
-        break;
-      case 11: {
-        static constexpr int kAnswers[] = {msgbox::kYes, msgbox::kNo, msgbox::kOK};
-        boxes_.QueueAnswer(kAnswers[in.Next() % 3]);
-        break;
-      }
-      case 12:
-      case 13:
-        if (forms::Control* ok = form.Find("cmd_ok")) user::Click(*ok);
-        break;
-      case 14:
-        user::ClearText(*control);
-        break;
-      default:
-        switch (in.Next() % 4) {
-          case 0:
-            if (forms::Control* cancel = form.Find("cmd_cancel")) user::Click(*cancel);
-            break;
-          case 1:
-            user::CloseBox(form);
-            break;
-          default:
-            user::Select(*control, in.Next() % 12, in.Next() % 12);
-        }
-    }
+        [](Turn& t) {
+          user::Paste(t.control, t.in.Next() % 8 == 0 ? std::string(10000, 'x') + Text(t.in, 4)
+                                                      : Text(t.in, t.in.Next() % 40));
+        },
+        [](Turn& t) { user::MenuPaste(t.control, Text(t.in, t.in.Next() % 40)); },
+        [](Turn& t) { user::MouseDown(t.control, static_cast<int16_t>(1 + t.in.Next() % 2)); },
+        [](Turn& t) { user::Click(t.control); },
+        [](Turn& t) { user::Click(t.control); },
+        [](Turn& t) {
+          const int rows = t.control.ListCount();
+          if (rows > 0) user::PickRow(t.control, t.in.Next() % rows);
+        },
+        [](Turn& t) { t.monkey.boxes_.QueueAnswer(kAnswers[t.in.Next() % std::size(kAnswers)]); },
+        [](Turn& t) { t.Click("cmd_ok"); },
+        [](Turn& t) { t.Click("cmd_ok"); },
+        [](Turn& t) { user::ClearText(t.control); },
+        [](Turn& t) {
+          const uint8_t how = t.in.Next() % 4;
+          if (how == 0) t.Click("cmd_cancel");
+          if (how == 1) user::CloseBox(t.form);
+          if (how > 1) user::Select(t.control, t.in.Next() % 12, t.in.Next() % 12);
+        },
+    };
+    kActions[op % std::size(kActions)](turn);
   }
 
-  static Masks RememberMasks(forms::Form& form) {
-    Masks masks;
-    for (const auto& control : form.Controls()) {
-      if (forms::IsTextKind(control->kind())) {
-        masks[control.get()] = {!control->PasswordChar().empty(), control->Text()};
-      }
-    }
-    return masks;
-  }
-
-  void CheckCommon(const Masks& masks, bool pressed) {
+  // The focus is never left on a control that cannot take it, and nothing the person does takes
+  // a text past its maximum: a longer value the dialog itself put there (a stored value kept
+  // whole) may stay, but must not grow.
+  void CheckCommon(const std::map<const forms::Control*, size_t>& before) {
     forms::Control* focused = app_.Focused();
     if (focused != nullptr && !forms::Application::Available(*focused)) {
       Violated("the focus is on " + focused->Name() + ", which is not available");
     }
-    forms::Form* form = app_.ActiveForm();
-    if (form == nullptr) return;
-    // What the person types or pastes never takes a text past its maximum. A longer value that
-    // the dialog itself put there (a stored value kept whole) may stay, but must not grow.
-    for (const auto& control : form->Controls()) {
-      if (!forms::IsTextKind(control->kind()) || control->MaxLength() <= 0) continue;
-      const size_t length = utf8::Length(control->Text());
-      if (length <= static_cast<size_t>(control->MaxLength())) continue;
-      const auto before = masks.find(control.get());
-      if (before != masks.end() && length > utf8::Length(before->second.second)) {
+    for (const auto& [control, length] : before) {
+      const size_t now = utf8::Length(control->Text());
+      if (control->MaxLength() > 0 && now > static_cast<size_t>(control->MaxLength()) &&
+          now > length) {
         Violated(control->Name() + " grew past its maximum length");
-      }
-    }
-    // Outside a button press nothing masks a box, and an edited box is shown in clear.
-    if (pressed) return;
-    for (const auto& [control, before] : masks) {
-      const bool masked = !control->PasswordChar().empty();
-      if (masked && !before.first) Violated(control->Name() + " was masked without a press");
-      if (masked && control->Text() != before.second) {
-        Violated(control->Name() + " stays masked after an edit");
       }
     }
   }
@@ -291,12 +203,10 @@ class DialogMonkey final : public forms::ModalDriver, public forms::FormObserver
   headless::RecordingMessageBox& boxes_;
   std::function<void()> reopen_;
   size_t actions_ = 0;
-  // Shared with the wrapped buttons, which may outlive the monkey.
-  std::shared_ptr<size_t> presses_ = std::make_shared<size_t>(0);
-  int modal_depth_ = 0;
+  int depth_ = 0;
   // The input and checks of the action under way, for a modal dialog it opens.
   ByteReader* in_ = nullptr;
-  const std::function<void()>* check_ = nullptr;
+  const Check* check_ = nullptr;
 };
 
 }  // namespace nvrandom::fuzz
