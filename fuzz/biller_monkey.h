@@ -48,35 +48,147 @@ class ByteReader {
   const uint8_t* end_;
 };
 
+// The biller record, the foreign bank fields left out.
+inline std::vector<std::string> Record(const ComponentStore& s) {
+  return {s.PayeeName,        s.PayeeBillAccount,      s.PayeeStreet,        s.PayeeCity,
+          s.PayeeProv,        s.PayeeCountry,          s.PayeePostal,        s.PayeePhoneArea,
+          s.PayeePhoneNumber, s.PayeeFaxArea,          s.PayeeFaxNumber,     s.PayeeEmail,
+          s.PayeeWeb,         s.PayeeContactName,      s.PayeeBankId,        s.PayeeBankTransit,
+          s.PayeeBankAccount, s.PayeeIndBusnTag,       s.PayeeBusinessNum,   s.PayeeDiscountsApply,
+          s.PayeeCurrency,    s.PayeePhoneCountryCode, s.PayeeFaxCountryCode};
+}
+
+// The foreign bank fields, which only the foreign bank dialog's acceptance stores.
+inline std::vector<std::string> ForeignBank(const ComponentStore& s) {
+  return {s.PayeeFXBankName,    s.PayeeFXBankAddress, s.PayeeFXBankCity, s.PayeeFXBankProv,
+          s.PayeeFXBankCountry, s.PayeeFXBankAccount, s.PayeeFXBankSwift};
+}
+
 [[noreturn]] inline void Violated(const std::string& what) {
   std::fprintf(stderr, "dialog invariant violated: %s\n", what.c_str());
   std::abort();
 }
 
-class DialogMonkey final : public forms::ModalDriver {
+// The layout byte: bits 0-1 the kind of biller, bit 2 a new biller, bit 3 stored foreign bank
+// details (bit 4: a bank in the United States), bit 5 an imported biller.
+inline void SetLayout(ComponentStore& s, uint8_t layout) {
+  s = ComponentStore{};
+  s.poBoxWords = validation::SplitPoBoxWords();
+  s.gstrInstallRoot = std::filesystem::temp_directory_path().string() + "/";
+  s.Provpostalstr = "ABTBCVMBRNBENLAONKONLONMQCGQCHSKS";
+  s.PayeeName = "ACME";
+  s.PayeeStreet = "1 MAIN ST";
+  s.PayeeCity = "OTTAWA";
+  s.PayeeProv = "ON";
+  s.PayeePostal = "K1A0B1";
+  s.PayeePhoneArea = "613";
+  s.PayeePhoneNumber = "5551234";
+  s.PayeeBankId = "001";
+  s.PayeeBankTransit = "00011";
+  s.PayeeBankAccount = "1234567";
+  s.UserBankAcctPermission = -1;
+  s.InternationalPayment = -1;
+  s.IPCurrencyList = StringArray::TwoDimensional(0, 1, 0, 0);
+  s.IPCurrencyList.at(0, 0) = "EUR";
+  s.IPCurrencyList.at(1, 0) = "Euro";
+  s.Add = static_cast<int16_t>(layout & 4 ? -1 : 0);
+  switch (layout % 4) {
+    case 0:  // domestic business
+      s.PayeeIndBusnTag = "2";
+      s.PayeeIndBussFlg = " ";
+      break;
+    case 1:  // domestic individual
+      s.PayeeIndBusnTag = "1";
+      s.PayeeIndBussFlg = "I";
+      s.PayeeEmail = "jane@home.ca";
+      break;
+    case 2:  // US
+      s.WhatKindOfBiller = "1";
+      s.CurrencyCodeFromMain = "USD";
+      s.PayeeCountry = "US";
+      s.PayeeProv = "NY";
+      s.PayeePostal = "10001";
+      s.PayeePhoneArea = "212";
+      break;
+    default:  // foreign currency
+      s.PayeeIndBusnTag = "2";
+      s.PayeeCountry = "GB";
+      s.PayeeCurrency = "EUR";
+      s.PayeeFXPhoneNumber = "2071234567";
+      s.PayeePhoneCountryCode = "44";
+      break;
+  }
+  if (layout & 8) {
+    s.PayeeFXBankName = "NORTH BANK";
+    s.PayeeFXBankAddress = "1 HIGH ST";
+    s.PayeeFXBankCity = "LONDON";
+    s.PayeeFXBankProv = "LDN";
+    if (layout & 16) {
+      s.PayeeFXBankCountry = "US";
+      s.PayeeFXBankAccount = "02100002112345678";
+    } else {
+      s.PayeeFXBankCountry = "GB";
+      s.PayeeFXBankAccount = "GB29NWBK60161331926819";
+      s.PayeeFXBankSwift = "NWBKGB2L";
+    }
+  }
+  if (layout & 32) s.importFlag = -1;
+}
+
+class CountingEvents final : public RandomInfoEvents {
  public:
-  using Check = std::function<void()>;
+  void CSBOK() override { ++accepted; }
+  void CurrentFieldTop(int16_t) override {}
+  void Cancel() override { ++cancelled; }
+  void ViewSampleCheque() override {}
+  int accepted = 0;
+  int cancelled = 0;
+};
+
+// The monkey on the biller dialog: the dialog's host and the application's modal driver while it
+// lives.
+class BillerMonkey final : public forms::ModalDriver, public forms::FormObserver {
+ public:
   // Modal dialogs nest at most this deep; a deeper one is closed at once.
   static constexpr int kMaxModalDepth = 4;
 
-  // `boxes` answers the message boxes; `reopen` shows the dialog again once it has closed.
-  DialogMonkey(forms::Application& app, headless::RecordingMessageBox& boxes,
-               std::function<void()> reopen)
-      : app_(app), boxes_(boxes), reopen_(std::move(reopen)) {
+  BillerMonkey(Context& ctx, headless::RecordingMessageBox& boxes, ByteReader& in)
+      : ctx_(ctx), app_(ctx.forms()), boxes_(boxes), in_(in) {
     app_.SetModalDriver(this);
+    app_.AddObserver(this);
   }
-  ~DialogMonkey() override { app_.SetModalDriver(nullptr); }
-  DialogMonkey(const DialogMonkey&) = delete;
-  DialogMonkey& operator=(const DialogMonkey&) = delete;
+  ~BillerMonkey() override {
+    app_.RemoveObserver(this);
+    app_.SetModalDriver(nullptr);
+  }
+  BillerMonkey(const BillerMonkey&) = delete;
+  BillerMonkey& operator=(const BillerMonkey&) = delete;
 
-  // A modal dialog takes the next actions of the input under way. When the input is used up (or
-  // the dialogs nest too deep) it is closed by its cancel button, else by code, so that nothing
-  // waits for input that never comes.
+  // Opens the dialog, then acts until the input is used up, reopening the dialog after each close
+  // (at most `max_shows` times). Returns the actions performed.
+  size_t Run(int max_shows) {
+    Open();
+    running_ = true;
+    for (int shows = 0; shows < max_shows && Step();) {
+      if (!dialog_->IsLoaded()) ++shows;
+    }
+    running_ = false;
+    // Whatever is left open is closed by code, as a host would.
+    while (forms::Form* front = app_.ActiveForm()) {
+      if (!front->Unload()) break;
+    }
+    dialog_->Unload();
+    return actions_;
+  }
+
+  // A modal dialog takes the next actions of the input. When the input is used up (or the dialogs
+  // nest too deep) it is closed by its cancel button, else by code, so that nothing waits for
+  // input that never comes.
   void RunModal(forms::Form& form) override {
     const std::shared_ptr<forms::Form> keep = form.shared_from_this();
     const auto shown = [&] { return form.IsLoaded() && form.Visible(); };
     ++depth_;
-    while (in_ != nullptr && depth_ <= kMaxModalDepth && shown() && Step(*in_, *check_)) {
+    while (running_ && depth_ <= kMaxModalDepth && shown() && Step()) {
     }
     forms::Control* cancel = form.Find("cmd_cancel");
     if (shown() && cancel != nullptr && app_.TakesInput(*cancel)) forms::user::Click(*cancel);
@@ -84,34 +196,57 @@ class DialogMonkey final : public forms::ModalDriver {
     --depth_;
   }
 
+  // Each modal visit of the foreign bank dialog: from its show to its unload (after the biller
+  // dialog has stored what it returned) the foreign bank fields change only when the dialog was
+  // accepted with OK.
+  void FormLifecycle(forms::Form& form, forms::FormEvent event) override {
+    const auto* bank = dynamic_cast<const frmFXBankInfo*>(&form);
+    if (bank != nullptr && event == forms::FormEvent::kShownModal) bank_ = ForeignBank(ctx_.store);
+    if (bank == nullptr || event != forms::FormEvent::kUnloaded || !bank_) return;
+    if (!bank->OKClicked() && ForeignBank(ctx_.store) != *bank_) {
+      Violated("the foreign bank fields changed though the foreign bank dialog was not accepted");
+    }
+    bank_.reset();
+  }
+
+ private:
+  void Open() {
+    record_ = Record(ctx_.store);
+    events_.accepted = events_.cancelled = 0;
+    dialog_ = frmRandomInfo::Create(ctx_, &events_);
+    dialog_->Show(false);
+  }
+
   // One action on the front-most form (the dialog reopened if none is); false once the input is
   // used up.
-  bool Step(ByteReader& in, const Check& check) {
-    if (in.done()) return false;
-    if (app_.ActiveForm() == nullptr) reopen_();
+  bool Step() {
+    if (in_.done()) return false;
+    if (app_.ActiveForm() == nullptr) Open();
     forms::Form* form = app_.ActiveForm();
     if (form == nullptr) Violated("the dialog does not open again");
     // The form outlives this action even when the action closes it.
     const std::shared_ptr<forms::Form> keep = form->shared_from_this();
     std::map<const forms::Control*, size_t> lengths;
     for (const auto& control : form->Controls()) {
-      if (forms::IsTextKind(control->kind()))
+      if (forms::IsTextKind(control->kind())) {
         lengths[control.get()] = utf8::Length(control->Text());
+      }
     }
-    ByteReader* const outer_in = std::exchange(in_, &in);
-    const Check* const outer_check = std::exchange(check_, &check);
-    Act(*form, in);
-    in_ = outer_in;
-    check_ = outer_check;
+    Act(*form, in_);
     ++actions_;
     CheckCommon(lengths);
-    check();
+    // Each show ends in at most one CSBOK or Cancel, which closes it; the record changes only
+    // with CSBOK.
+    if (events_.accepted + events_.cancelled > 1) Violated("more than one CSBOK or Cancel");
+    if (events_.accepted == 0 && Record(ctx_.store) != record_) {
+      Violated("the biller record changed without CSBOK");
+    }
+    if (events_.accepted + events_.cancelled == 1 && dialog_->IsLoaded()) {
+      Violated("the dialog stays open after CSBOK or Cancel");
+    }
     return true;
   }
 
-  size_t actions() const { return actions_; }
-
- private:
   static std::string Text(ByteReader& in, size_t length) {
     static constexpr const char* kPieces[] = {
         "a", "Z", "0",  "7",  " ",    "\"",   "@",        ".",
@@ -124,7 +259,7 @@ class DialogMonkey final : public forms::ModalDriver {
 
   // What one action works on: the form, the control the input picked and the input.
   struct Turn {
-    DialogMonkey& monkey;
+    BillerMonkey& monkey;
     forms::Form& form;
     forms::Control& control;
     ByteReader& in;
@@ -204,171 +339,25 @@ class DialogMonkey final : public forms::ModalDriver {
     }
   }
 
+  Context& ctx_;
   forms::Application& app_;
   headless::RecordingMessageBox& boxes_;
-  std::function<void()> reopen_;
+  ByteReader& in_;
+  std::shared_ptr<frmRandomInfo> dialog_;
+  std::vector<std::string> record_;
+  std::optional<std::vector<std::string>> bank_;
+  CountingEvents events_;
   size_t actions_ = 0;
   int depth_ = 0;
-  // The input and checks of the action under way, for a modal dialog it opens.
-  ByteReader* in_ = nullptr;
-  const Check* check_ = nullptr;
+  bool running_ = false;
 };
-
-class CountingEvents final : public RandomInfoEvents {
- public:
-  void CSBOK() override { ++accepted; }
-  void CurrentFieldTop(int16_t) override {}
-  void Cancel() override { ++cancelled; }
-  void ViewSampleCheque() override {}
-  int accepted = 0;
-  int cancelled = 0;
-};
-
-// The biller record, the foreign bank fields left out.
-inline std::vector<std::string> Record(const ComponentStore& s) {
-  return {s.PayeeName,        s.PayeeBillAccount,      s.PayeeStreet,        s.PayeeCity,
-          s.PayeeProv,        s.PayeeCountry,          s.PayeePostal,        s.PayeePhoneArea,
-          s.PayeePhoneNumber, s.PayeeFaxArea,          s.PayeeFaxNumber,     s.PayeeEmail,
-          s.PayeeWeb,         s.PayeeContactName,      s.PayeeBankId,        s.PayeeBankTransit,
-          s.PayeeBankAccount, s.PayeeIndBusnTag,       s.PayeeBusinessNum,   s.PayeeDiscountsApply,
-          s.PayeeCurrency,    s.PayeePhoneCountryCode, s.PayeeFaxCountryCode};
-}
-
-// The foreign bank fields, which only the foreign bank dialog's acceptance stores.
-inline std::vector<std::string> ForeignBank(const ComponentStore& s) {
-  return {s.PayeeFXBankName,    s.PayeeFXBankAddress, s.PayeeFXBankCity, s.PayeeFXBankProv,
-          s.PayeeFXBankCountry, s.PayeeFXBankAccount, s.PayeeFXBankSwift};
-}
-
-// Watches each modal visit of the foreign bank dialog: from its show to its unload (after the
-// biller dialog has stored what it returned) the foreign bank fields change only when the
-// dialog was accepted with OK.
-class ForeignBankWatch final : public forms::FormObserver {
- public:
-  ForeignBankWatch(forms::Application& app, const ComponentStore& store)
-      : app_(app), store_(store) {
-    app_.AddObserver(this);
-  }
-  ~ForeignBankWatch() override { app_.RemoveObserver(this); }
-
-  void FormLifecycle(forms::Form& form, forms::FormEvent event) override {
-    const auto* bank = dynamic_cast<const frmFXBankInfo*>(&form);
-    if (bank != nullptr && event == forms::FormEvent::kShownModal) before_ = ForeignBank(store_);
-    if (bank == nullptr || event != forms::FormEvent::kUnloaded || !before_) return;
-    if (!bank->OKClicked() && ForeignBank(store_) != *before_) {
-      Violated("the foreign bank fields changed though the foreign bank dialog was not accepted");
-    }
-    before_.reset();
-  }
-
- private:
-  forms::Application& app_;
-  const ComponentStore& store_;
-  std::optional<std::vector<std::string>> before_;
-};
-
-// The layout byte: bits 0-1 the kind of biller, bit 2 a new biller, bit 3 stored foreign bank
-// details (bit 4: a bank in the United States), bit 5 an imported biller.
-inline void SetLayout(ComponentStore& s, uint8_t layout) {
-  s = ComponentStore{};
-  s.poBoxWords = validation::SplitPoBoxWords();
-  s.gstrInstallRoot = std::filesystem::temp_directory_path().string() + "/";
-  s.Provpostalstr = "ABTBCVMBRNBENLAONKONLONMQCGQCHSKS";
-  s.PayeeName = "ACME";
-  s.PayeeStreet = "1 MAIN ST";
-  s.PayeeCity = "OTTAWA";
-  s.PayeeProv = "ON";
-  s.PayeePostal = "K1A0B1";
-  s.PayeePhoneArea = "613";
-  s.PayeePhoneNumber = "5551234";
-  s.PayeeBankId = "001";
-  s.PayeeBankTransit = "00011";
-  s.PayeeBankAccount = "1234567";
-  s.UserBankAcctPermission = -1;
-  s.InternationalPayment = -1;
-  s.IPCurrencyList = StringArray::TwoDimensional(0, 1, 0, 0);
-  s.IPCurrencyList.at(0, 0) = "EUR";
-  s.IPCurrencyList.at(1, 0) = "Euro";
-  s.Add = static_cast<int16_t>(layout & 4 ? -1 : 0);
-  switch (layout % 4) {
-    case 0:  // domestic business
-      s.PayeeIndBusnTag = "2";
-      s.PayeeIndBussFlg = " ";
-      break;
-    case 1:  // domestic individual
-      s.PayeeIndBusnTag = "1";
-      s.PayeeIndBussFlg = "I";
-      s.PayeeEmail = "jane@home.ca";
-      break;
-    case 2:  // US
-      s.WhatKindOfBiller = "1";
-      s.CurrencyCodeFromMain = "USD";
-      s.PayeeCountry = "US";
-      s.PayeeProv = "NY";
-      s.PayeePostal = "10001";
-      s.PayeePhoneArea = "212";
-      break;
-    default:  // foreign currency
-      s.PayeeIndBusnTag = "2";
-      s.PayeeCountry = "GB";
-      s.PayeeCurrency = "EUR";
-      s.PayeeFXPhoneNumber = "2071234567";
-      s.PayeePhoneCountryCode = "44";
-      break;
-  }
-  if (layout & 8) {
-    s.PayeeFXBankName = "NORTH BANK";
-    s.PayeeFXBankAddress = "1 HIGH ST";
-    s.PayeeFXBankCity = "LONDON";
-    s.PayeeFXBankProv = "LDN";
-    if (layout & 16) {
-      s.PayeeFXBankCountry = "US";
-      s.PayeeFXBankAccount = "02100002112345678";
-    } else {
-      s.PayeeFXBankCountry = "GB";
-      s.PayeeFXBankAccount = "GB29NWBK60161331926819";
-      s.PayeeFXBankSwift = "NWBKGB2L";
-    }
-  }
-  if (layout & 32) s.importFlag = -1;
-}
 
 // One run of the monkey over `in` on a dialog opened in the layout of the input's first byte,
 // reopened after each close (at most `max_shows` times). Returns the actions performed.
 inline size_t RunBillerMonkey(Context& ctx, headless::RecordingMessageBox& boxes, ByteReader& in,
                               int max_shows) {
   SetLayout(ctx.store, in.Next());
-  CountingEvents events;
-  std::shared_ptr<frmRandomInfo> dialog;
-  std::vector<std::string> record;
-  auto open = [&] {
-    record = Record(ctx.store);
-    events.accepted = events.cancelled = 0;
-    dialog = frmRandomInfo::Create(ctx, &events);
-    dialog->Show(false);
-  };
-  DialogMonkey monkey(ctx.forms(), boxes, open);
-  const ForeignBankWatch watch(ctx.forms(), ctx.store);
-  open();
-  int shows = 0;
-  const auto check = [&] {
-    if (events.accepted + events.cancelled > 1) Violated("more than one CSBOK or Cancel");
-    if (events.accepted == 0 && Record(ctx.store) != record) {
-      Violated("the biller record changed without CSBOK");
-    }
-    if (events.accepted + events.cancelled == 1 && dialog->IsLoaded()) {
-      Violated("the dialog stays open after CSBOK or Cancel");
-    }
-  };
-  while (shows < max_shows && monkey.Step(in, check)) {
-    if (!dialog->IsLoaded()) ++shows;
-  }
-  // Whatever is left open is closed by code, as a host would.
-  while (forms::Form* front = ctx.forms().ActiveForm()) {
-    if (!front->Unload()) break;
-  }
-  dialog->Unload();
-  return monkey.actions();
+  return BillerMonkey(ctx, boxes, in).Run(max_shows);
 }
 
 }  // namespace nvrandom::fuzz
