@@ -2,14 +2,12 @@
 // readable in the font the view really uses, the dialogs' fonts found, the cheque's picture drawn.
 #include <QAbstractButton>
 #include <QApplication>
-#include <QCheckBox>
 #include <QFontInfo>
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScopeGuard>
 #include <QStyle>
 #include <QTest>
@@ -28,50 +26,38 @@ namespace {
 // Why a shown widget's caption does not fit its designed box ("" when it fits).
 QString Clipping(QWidget& widget) {
   const QFontMetrics metrics(widget.font());
-  const QString name = widget.objectName();
-  auto too_small = [&](const QString& text, int needed, int room) {
-    return QStringLiteral("%1 needs %2 px for \"%3\", has %4")
-        .arg(name)
-        .arg(needed)
-        .arg(text)
-        .arg(room);
-  };
+  QString text;
+  QSize room = widget.size();
+  QSize needed;
   if (auto* label = qobject_cast<QLabel*>(&widget)) {
-    const QString text = label->text();
-    if (text.isEmpty() || !label->pixmap().isNull()) return {};
-    const QRect room = label->contentsRect();
-    const QRect used = metrics.boundingRect(QRect(0, 0, room.width(), 1 << 20),
-                                            Qt::TextWordWrap | Qt::AlignLeft, text);
-    if (used.width() > room.width()) return too_small(text, used.width(), room.width());
-    if (used.height() > room.height()) {
-      return QStringLiteral("%1 shows %2 of %3 px of the lines of \"%4\"")
-          .arg(name)
-          .arg(room.height())
-          .arg(used.height())
-          .arg(text);
-    }
-    return {};
-  }
-  if (qobject_cast<QCheckBox*>(&widget) != nullptr ||
-      qobject_cast<QRadioButton*>(&widget) != nullptr) {
-    // The box, its spacing and the text: the widget's own size hint.
-    const QString text = static_cast<QAbstractButton&>(widget).text();
-    const int needed = widget.sizeHint().width();
-    return needed > widget.width() ? too_small(text, needed, widget.width()) : QString();
-  }
-  if (auto* button = qobject_cast<QPushButton*>(&widget)) {
-    const QString text = button->text().remove(u'&');
+    if (label->text().isEmpty() || !label->pixmap().isNull()) return {};
+    text = label->text();
+    room = label->contentsRect().size();
+    needed = metrics
+                 .boundingRect(QRect(0, 0, room.width(), 1 << 20), Qt::TextWordWrap | Qt::AlignLeft,
+                               text)
+                 .size();
+  } else if (auto* button = qobject_cast<QPushButton*>(&widget)) {
+    text = button->text().remove(u'&');
     const int margin = widget.style()->pixelMetric(QStyle::PM_ButtonMargin, nullptr, &widget);
-    const int needed = metrics.horizontalAdvance(text) + 2 * margin;
-    return needed > widget.width() ? too_small(text, needed, widget.width()) : QString();
-  }
-  if (auto* frame = qobject_cast<QGroupBox*>(&widget)) {
-    const QString text = frame->title().remove(u'&');
+    needed = {metrics.horizontalAdvance(text) + 2 * margin, 0};
+  } else if (auto* box = qobject_cast<QAbstractButton*>(&widget)) {
+    // A check box or option button: the box, its spacing and the text, its own size hint.
+    text = box->text();
+    needed = {widget.sizeHint().width(), 0};
+  } else if (auto* frame = qobject_cast<QGroupBox*>(&widget)) {
     // The title and the frame's line on either side of it: the box's own least width.
-    const int needed = frame->minimumSizeHint().width();
-    return needed > widget.width() ? too_small(text, needed, widget.width()) : QString();
+    text = frame->title().remove(u'&');
+    needed = {frame->minimumSizeHint().width(), 0};
   }
-  return {};
+  if (needed.width() <= room.width() && needed.height() <= room.height()) return {};
+  return QStringLiteral("%1 needs %2 x %3 px for \"%4\", has %5 x %6")
+      .arg(widget.objectName())
+      .arg(needed.width())
+      .arg(needed.height())
+      .arg(text)
+      .arg(room.width())
+      .arg(room.height());
 }
 
 // Every clipped caption among the window's shown widgets.
@@ -169,51 +155,47 @@ class LayoutTest : public QObject {
     QCOMPARE(QFontInfo(font).family(), QString("Open Sans"));
   }
 
-  // Each layout of the biller dialog: drawn at its size, nothing clipped, in the dialog's font.
-  void eachLayoutIsDrawnWhole_data() {
+  // Each layout of the biller dialog, and the dialogs its buttons open (the foreign bank details
+  // on the international layout, the sample cheque on the individual one): drawn at its size,
+  // nothing clipped, in the dialog's font; the cheque shows its picture, not an empty box.
+  void eachDialogIsDrawnWhole_data() {
     QTest::addColumn<QString>("sample");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("form");
     for (const std::string_view sample : demo::SampleNames()) {
-      QTest::newRow(sample.data()) << QString::fromLatin1(sample.data(), sample.size());
+      QTest::newRow(sample.data())
+          << QString::fromLatin1(sample.data(), sample.size()) << QString() << QString();
     }
+    QTest::newRow("foreign bank") << "international"
+                                  << "cmdFXBankingInfo"
+                                  << "frmFXBankInfo";
+    QTest::newRow("cheque") << "individual"
+                            << "cmdCheque"
+                            << "frmCheque";
   }
-  void eachLayoutIsDrawnWhole() {
+  void eachDialogIsDrawnWhole() {
     QFETCH(QString, sample);
+    QFETCH(QString, button);
+    QFETCH(QString, form);
     ClsRandom biller;
+    const auto unload = qScopeGuard([&] { biller.Unload_From_Remote(); });
     FormWindow* window = Open(biller, sample.toStdString());
     QVERIFY(window != nullptr);
     CheckDrawing(*window);
     QCOMPARE(QFontInfo(window->WidgetOf("lblStreet")->font()).family(), QString("MS Sans Serif"));
-    biller.Unload_From_Remote();
-  }
-
-  // The foreign bank dialog, opened from the international layout's button.
-  void theForeignBankDialogIsDrawnWhole() {
-    ClsRandom biller;
-    FormWindow* window = Open(biller, "international");
-    QVERIFY(window != nullptr);
-    auto* button = qobject_cast<QPushButton*>(window->WidgetOf("cmdFXBankingInfo"));
-    QVERIFY(button != nullptr && button->isVisible() && button->isEnabled());
-    CheckOpenedBy(*button, "frmFXBankInfo", [this](FormWindow& fx) {
-      CheckDrawing(fx);
-      QCOMPARE(QFontInfo(fx.WidgetOf("cmd_ok")->font()).family(), QString("Tahoma"));
-    });
-    biller.Unload_From_Remote();
-  }
-
-  // The sample cheque shows its picture, not an empty box.
-  void theChequeShowsItsPicture() {
-    ClsRandom biller;
-    FormWindow* window = Open(biller, "individual");
-    QVERIFY(window != nullptr);
-    auto* button = qobject_cast<QPushButton*>(window->WidgetOf("cmdCheque"));
-    QVERIFY(button != nullptr && button->isVisible());
-    CheckOpenedBy(*button, "frmCheque", [this](FormWindow& cheque) {
-      CheckDrawing(cheque);
-      QWidget* picture = cheque.WidgetOf("picture");
+    if (button.isEmpty()) return;
+    auto* opener = qobject_cast<QPushButton*>(window->WidgetOf(button.toStdString()));
+    QVERIFY(opener != nullptr && opener->isVisible() && opener->isEnabled());
+    CheckOpenedBy(*opener, form.toStdString(), [&](FormWindow& opened) {
+      CheckDrawing(opened);
+      if (form == "frmFXBankInfo") {
+        QCOMPARE(QFontInfo(opened.WidgetOf("cmd_ok")->font()).family(), QString("Tahoma"));
+        return;
+      }
+      QWidget* picture = opened.WidgetOf("picture");
       QVERIFY(picture != nullptr && picture->isVisible());
       QVERIFY(ShowsSomething(picture->grab().toImage()));
     });
-    biller.Unload_From_Remote();
   }
 };
 
