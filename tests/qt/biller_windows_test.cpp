@@ -1,18 +1,23 @@
-// The dialogs as a person sees them: each layout drawn at its designed size, every caption
-// readable in the font the view really uses, the dialogs' fonts found, the cheque's picture drawn.
+// The biller dialog in its windows. As a person sees it: each layout drawn at its designed size,
+// every caption readable in the font the view really uses, the dialogs' fonts found, the cheque's
+// picture drawn. Under what a host should not do: nothing crashes, nothing typed is lost, and the
+// model and the widgets agree afterwards.
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFontInfo>
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QStyle>
 #include <QTest>
 #include <QTimer>
 #include <functional>
+#include <vector>
 
 #include "api/cls_random.h"
 #include "biller_windows.h"
@@ -22,6 +27,8 @@
 
 namespace nvrandom::qt {
 namespace {
+
+constexpr int32_t kCancelled = 50000;
 
 // Why a shown widget's caption does not fit its designed box ("" when it fits).
 QString Clipping(QWidget& widget) {
@@ -88,7 +95,7 @@ QSize DesignedSize(const forms::Form& form) {
   return {TwipsToPixels(form.Width(), dpi), TwipsToPixels(form.Height(), dpi)};
 }
 
-class LayoutTest : public QObject {
+class BillerWindowsTest : public QObject {
   Q_OBJECT
 
  private:
@@ -96,6 +103,30 @@ class LayoutTest : public QObject {
   QStringList messages_;
 
   FormWindow* WindowOf(std::string_view name) const { return windows_->WindowOf(name); }
+  FormWindow* WindowOf(forms::Form& form) const { return windows_->WindowOf(form); }
+  static std::vector<forms::Form*> BillerForms() { return BillerWindows::Loaded("frmRandomInfo"); }
+  QLineEdit* Street(forms::Form& form) const {
+    FormWindow* window = WindowOf(form);
+    return window != nullptr ? qobject_cast<QLineEdit*>(window->WidgetOf("ran_payee_street"))
+                             : nullptr;
+  }
+  // Appends `text` to the street as the person types it, and checks both sides show `expected`.
+  void TypeOnStreet(forms::Form& form, const char* text, const char* expected) {
+    QLineEdit* street = Street(form);
+    QVERIFY(street != nullptr);
+    QTest::keyClick(street, Qt::Key_End);
+    QTest::keyClicks(street, text);
+    QCOMPARE(form.Ctl("ran_payee_street").Text(), expected);
+    QCOMPARE(street->text(), QString(expected));
+  }
+  // Closes every biller dialog still open but `keep`, so that no modal show outlives a failed
+  // check.
+  void CloseAll(const forms::Form* keep = nullptr) {
+    for (forms::Form* form : BillerForms()) {
+      FormWindow* window = WindowOf(*form);
+      if (form != keep && window != nullptr) window->close();
+    }
+  }
 
   // The biller dialog on a sample, in a window of its own (nullptr when it did not open).
   FormWindow* Open(ClsRandom& biller, const std::string& sample) {
@@ -137,14 +168,20 @@ class LayoutTest : public QObject {
   void initTestCase() {
     windows_ = std::make_unique<BillerWindows>();
     QVERIFY(windows_->ok());
-    // A message box would wait for a person: none is expected while the layouts are shown.
+  }
+  void init() {
+    BillerWindows::ResetRecord();
+    // A message box would wait for a person: none is expected unless a test says so.
     BillerWindows::boxes()->on_shown = [this](QMessageBox& box) {
       messages_ << box.text();
       box.reject();
     };
   }
-  void init() { BillerWindows::ResetRecord(); }
-  void cleanup() { QVERIFY2(messages_.isEmpty(), qPrintable(messages_.join(u'\n'))); }
+  void cleanup() {
+    QVERIFY2(messages_.isEmpty(), qPrintable(messages_.join(u'\n')));
+    messages_.clear();
+    QVERIFY(BillerForms().empty());
+  }
   void cleanupTestCase() { windows_.reset(); }
 
   // "Segoe UI" resolves to the free font it is mapped to, not to a default face. The dialogs'
@@ -197,10 +234,72 @@ class LayoutTest : public QObject {
       QVERIFY(ShowsSomething(picture->grab().toImage()));
     });
   }
+  // A host that calls ShowForm again while a biller dialog is open gets a second dialog in a
+  // window of its own over the first; each keeps what was typed into it, and each closes on its
+  // own.
+  void aSecondShowFormWhileOneIsOpen() {
+    ClsRandom first;
+    demo::LoadSample(first, "business", windows_->install());
+    int32_t inner_result = -1;
+    bool checked = false;
+    QTimer::singleShot(0, this, [&] {
+      const auto close = qScopeGuard([this] { CloseAll(); });
+      QCOMPARE(BillerForms().size(), size_t{1});
+      forms::Form& outer = *BillerForms().front();
+      TypeOnStreet(outer, " b", "100 KING ST W B");
+      QTimer::singleShot(0, this, [&] {
+        const auto close_inner = qScopeGuard([&] { CloseAll(&outer); });
+        QCOMPARE(BillerForms().size(), size_t{2});
+        forms::Form& inner = *BillerForms().back();
+        QVERIFY(WindowOf(inner) != nullptr && WindowOf(inner) != WindowOf(outer));
+        TypeOnStreet(inner, " c", "100 KING ST W C");
+        QCOMPARE(Street(outer)->text(), QString("100 KING ST W B"));
+      });
+      ClsRandom second;
+      inner_result = second.ShowForm();
+      QCOMPARE(BillerForms().size(), size_t{1});
+      TypeOnStreet(outer, "d", "100 KING ST W BD");
+      checked = true;
+    });
+    QCOMPARE(first.ShowForm(), kCancelled);
+    QVERIFY(checked);
+    QCOMPARE(inner_result, kCancelled);
+  }
+
+  // The host unloads the dialog while one of its message boxes waits for the person: the box
+  // goes with it, the modal show returns, and the typed text is not accepted.
+  void theDialogUnloadedUnderItsMessageBox() {
+    ClsRandom biller;
+    demo::LoadSample(biller, "business", windows_->install());
+    QString shown;
+    BillerWindows::boxes()->on_shown = [&](QMessageBox& box) {
+      shown = box.text();
+      QPointer<QMessageBox> alive(&box);
+      biller.Unload_From_Remote();
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      if (alive) alive->reject();
+    };
+    QTimer::singleShot(0, this, [&] {
+      const auto close = qScopeGuard([this] { CloseAll(); });
+      forms::Form& form = *BillerForms().front();
+      QLineEdit* street = Street(form);
+      QVERIFY(street != nullptr);
+      // The box opens over the dialog, as it does for a person.
+      WindowOf(form)->activateWindow();
+      QVERIFY(QTest::qWaitForWindowActive(WindowOf(form)));
+      street->selectAll();
+      QTest::keyClicks(street, "a");  // too short a street: a message
+      QCOMPARE(form.Ctl("ran_payee_street").Text(), "A");
+      QTest::mouseClick(WindowOf(form)->WidgetOf("cmd_ok"), Qt::LeftButton);
+    });
+    biller.ShowForm();
+    QVERIFY2(!shown.isEmpty(), "the empty street was accepted");
+    QCOMPARE(QString::fromStdString(ToText(biller.Get("PayeeStreet"))), QString("100 KING ST W"));
+  }
 };
 
 }  // namespace
 }  // namespace nvrandom::qt
 
-QTEST_MAIN(nvrandom::qt::LayoutTest)
-#include "layout_test.moc"
+QTEST_MAIN(nvrandom::qt::BillerWindowsTest)
+#include "biller_windows_test.moc"
