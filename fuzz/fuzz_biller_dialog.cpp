@@ -1,8 +1,6 @@
 // The biller dialog under a monkey: opened in one of its four layouts (domestic business,
 // domestic individual, US, foreign currency), then driven by the input as a person would drive
-// it. Besides what holds on any dialog: the biller record changes only with CSBOK (the foreign
-// bank fields aside, which the foreign bank dialog stores on its own acceptance), and each show
-// ends in at most one CSBOK or Cancel.
+// it, its record changed only with CSBOK.
 #include <cstddef>
 #include <cstdint>
 
