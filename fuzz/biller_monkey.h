@@ -59,8 +59,7 @@ inline std::vector<std::string> Record(const ComponentStore& s) {
   std::abort();
 }
 
-// The layout byte: bits 0-1 the kind of biller, bit 2 a new biller, bit 3 stored foreign bank
-// details (bit 4: a bank in the United States), bit 5 an imported biller.
+// The layout byte: bits 0-1 the kind of biller, bit 2 a new biller, bit 5 an imported biller.
 inline void SetLayout(ComponentStore& s, uint8_t layout) {
   s = ComponentStore{};
   s.poBoxWords = validation::SplitPoBoxWords();
@@ -107,20 +106,6 @@ inline void SetLayout(ComponentStore& s, uint8_t layout) {
       s.PayeeFXPhoneNumber = "2071234567";
       s.PayeePhoneCountryCode = "44";
       break;
-  }
-  if (layout & 8) {
-    s.PayeeFXBankName = "NORTH BANK";
-    s.PayeeFXBankAddress = "1 HIGH ST";
-    s.PayeeFXBankCity = "LONDON";
-    s.PayeeFXBankProv = "LDN";
-    if (layout & 16) {
-      s.PayeeFXBankCountry = "US";
-      s.PayeeFXBankAccount = "02100002112345678";
-    } else {
-      s.PayeeFXBankCountry = "GB";
-      s.PayeeFXBankAccount = "GB29NWBK60161331926819";
-      s.PayeeFXBankSwift = "NWBKGB2L";
-    }
   }
   if (layout & 32) s.importFlag = -1;
 }
