@@ -9,13 +9,9 @@
 // the record changed only with CSBOK. Shared by the fuzz target and the benchmark.
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
-#include <functional>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "app/headless_services.h"
@@ -27,6 +23,7 @@
 #include "forms/control.h"
 #include "forms/form.h"
 #include "forms/user_input.h"
+#include "fuzz_input.h"
 #include "platform/message_box.h"
 #include "validation/address_rules.h"
 
@@ -52,11 +49,6 @@ inline std::vector<std::string> Record(const ComponentStore& s) {
           s.PayeeWeb,         s.PayeeContactName,      s.PayeeBankId,        s.PayeeBankTransit,
           s.PayeeBankAccount, s.PayeeIndBusnTag,       s.PayeeBusinessNum,   s.PayeeDiscountsApply,
           s.PayeeCurrency,    s.PayeePhoneCountryCode, s.PayeeFaxCountryCode};
-}
-
-[[noreturn]] inline void Violated(const std::string& what) {
-  std::fprintf(stderr, "dialog invariant violated: %s\n", what.c_str());
-  std::abort();
 }
 
 // The layout byte: bits 0-1 the kind of biller, bit 2 a new biller, bit 5 an imported biller.
