@@ -1,5 +1,5 @@
-// Runs a fuzz target over saved inputs (files, or every file of a folder) without libFuzzer, so
-// the targets are built and exercised by every build.
+// Runs a fuzz target over the saved inputs of the folders given, without libFuzzer, so the
+// targets are built and exercised by every build.
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
@@ -15,13 +15,7 @@ int main(int argc, char** argv) {
   namespace fs = std::filesystem;
   std::vector<fs::path> files;
   for (int i = 1; i < argc; ++i) {
-    if (!fs::is_directory(argv[i])) {
-      files.emplace_back(argv[i]);
-      continue;
-    }
-    for (const auto& entry : fs::directory_iterator(argv[i])) {
-      if (entry.is_regular_file()) files.push_back(entry.path());
-    }
+    for (const auto& entry : fs::directory_iterator(argv[i])) files.push_back(entry.path());
   }
   std::sort(files.begin(), files.end());
   LLVMFuzzerTestOneInput(nullptr, 0);

@@ -16,7 +16,6 @@
 #include <QStyle>
 #include <QTest>
 #include <QTimer>
-#include <functional>
 #include <vector>
 
 #include "api/cls_random.h"
@@ -65,16 +64,6 @@ QString Clipping(QWidget& widget) {
       .arg(room.height());
 }
 
-// Every clipped caption among the window's shown widgets.
-QStringList ClippedCaptions(QWidget& window) {
-  QStringList clipped;
-  for (QWidget* widget : window.findChildren<QWidget*>()) {
-    if (!widget->isVisibleTo(&window) || widget->objectName().isEmpty()) continue;
-    if (const QString why = Clipping(*widget); !why.isEmpty()) clipped << why;
-  }
-  return clipped;
-}
-
 // A picture that shows something: more than a handful of colours, and no colour covering
 // almost all of it.
 bool ShowsSomething(const QImage& image) {
@@ -86,11 +75,6 @@ bool ShowsSomething(const QImage& image) {
   for (const qsizetype n : counts) largest = std::max(largest, n);
   const qsizetype all = qsizetype{image.width()} * image.height();
   return counts.size() > 4 && largest < all * 97 / 100;
-}
-
-QSize DesignedSize(const forms::Form& form) {
-  const double dpi = ScreenDpi();
-  return {TwipsToPixels(form.Width(), dpi), TwipsToPixels(form.Height(), dpi)};
 }
 
 class BillerWindowsTest : public QObject {
@@ -118,31 +102,18 @@ class BillerWindowsTest : public QObject {
     return window != nullptr && QTest::qWaitForWindowExposed(window) ? window : nullptr;
   }
 
-  // The window of the form a click opens modally, checked while it is open, then closed.
-  void CheckOpenedBy(QWidget& button, std::string_view form_name,
-                     const std::function<void(FormWindow&)>& check) {
-    bool checked = false;
-    QTimer::singleShot(0, this, [&] {
-      // Closed however the checks end, so that the modal show returns.
-      const auto close = qScopeGuard([&] {
-        if (FormWindow* window = WindowOf(form_name)) window->close();
-      });
-      FormWindow* window = WindowOf(form_name);
-      QVERIFY2(window != nullptr, form_name.data());
-      QVERIFY(QTest::qWaitForWindowExposed(window));
-      check(*window);
-      checked = true;
-    });
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QVERIFY(checked);
-    QVERIFY(WindowOf(form_name) == nullptr || !WindowOf(form_name)->isVisible());
-  }
-
+  // Drawn at its designed size, showing something, with every shown caption fitting its box.
   void CheckDrawing(FormWindow& window) {
     const QImage picture = window.grab().toImage();
-    QCOMPARE(picture.size(), DesignedSize(*window.form()));
+    const double dpi = ScreenDpi();
+    QCOMPARE(picture.size(), QSize(TwipsToPixels(window.form()->Width(), dpi),
+                                   TwipsToPixels(window.form()->Height(), dpi)));
     QVERIFY2(ShowsSomething(picture), qPrintable(window.objectName()));
-    const QStringList clipped = ClippedCaptions(window);
+    QStringList clipped;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+      if (!widget->isVisibleTo(&window) || widget->objectName().isEmpty()) continue;
+      if (const QString why = Clipping(*widget); !why.isEmpty()) clipped << why;
+    }
     QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(u'\n')));
   }
 
@@ -197,17 +168,31 @@ class BillerWindowsTest : public QObject {
     if (button.isEmpty()) return;
     auto* opener = qobject_cast<QPushButton*>(window->WidgetOf(button.toStdString()));
     QVERIFY(opener != nullptr && opener->isVisible() && opener->isEnabled());
-    CheckOpenedBy(*opener, form.toStdString(), [&](FormWindow& opened) {
-      CheckDrawing(opened);
-      if (form == "frmFXBankInfo") {
-        QCOMPARE(QFontInfo(opened.WidgetOf("cmd_ok")->font()).family(), QString("Tahoma"));
-        return;
+    // The dialog the button opens modally, checked while it is open, then closed however the
+    // checks end, so that the modal show returns.
+    const std::string name = form.toStdString();
+    bool checked = false;
+    QTimer::singleShot(0, this, [&] {
+      const auto close = qScopeGuard([&] {
+        if (FormWindow* opened = WindowOf(name)) opened->close();
+      });
+      FormWindow* opened = WindowOf(name);
+      QVERIFY(opened != nullptr && QTest::qWaitForWindowExposed(opened));
+      CheckDrawing(*opened);
+      if (name == "frmFXBankInfo") {
+        QCOMPARE(QFontInfo(opened->WidgetOf("cmd_ok")->font()).family(), QString("Tahoma"));
+      } else {
+        QWidget* picture = opened->WidgetOf("picture");
+        QVERIFY(picture != nullptr && picture->isVisible());
+        QVERIFY(ShowsSomething(picture->grab().toImage()));
       }
-      QWidget* picture = opened.WidgetOf("picture");
-      QVERIFY(picture != nullptr && picture->isVisible());
-      QVERIFY(ShowsSomething(picture->grab().toImage()));
+      checked = true;
     });
+    QTest::mouseClick(opener, Qt::LeftButton);
+    QVERIFY(checked);
+    QVERIFY(WindowOf(name) == nullptr || !WindowOf(name)->isVisible());
   }
+
   // The host unloads the dialog while one of its message boxes waits for the person: the box
   // goes with it, the modal show returns, and the typed text is not accepted.
   void theDialogUnloadedUnderItsMessageBox() {
