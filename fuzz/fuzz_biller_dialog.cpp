@@ -5,7 +5,6 @@
 #include <cstdint>
 
 #include "biller_monkey.h"
-#include "fuzz_input.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   nvrandom::fuzz::FuzzContext& fc = nvrandom::fuzz::SharedContext();

@@ -7,7 +7,6 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
@@ -21,7 +20,6 @@
 #include "forms/form.h"
 #include "qt_fonts.h"
 #include "qt_services.h"
-#include "qt_units.h"
 #include "qt_view.h"
 
 namespace nvrandom::qt {
@@ -103,18 +101,6 @@ class ViewInputTest : public QObject {
   // The control has the focus, in the model and in the widgets.
   bool HasFocus(std::string_view name) {
     return app_->Focused() == &Ctl(name) && QApplication::focusWidget() == Window().WidgetOf(name);
-  }
-  // What the window system delivers for a double click: press, release, double click, release.
-  static void DoubleClick(QWidget& widget) {
-    const QPointF at(widget.width() / 2.0, widget.height() / 2.0);
-    const QPointF global = widget.mapToGlobal(at);
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-                                    QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
-      const bool down = type != QEvent::MouseButtonRelease;
-      QMouseEvent event(type, at, global, Qt::LeftButton, down ? Qt::LeftButton : Qt::NoButton,
-                        Qt::NoModifier);
-      QApplication::sendEvent(&widget, &event);
-    }
   }
 
  private slots:
@@ -216,9 +202,6 @@ class ViewInputTest : public QObject {
     QVERIFY(!Widget<QRadioButton>("optOne")->isChecked());
     QTest::mouseClick(Widget<QPushButton>("cmdOK"), Qt::LeftButton);
     QCOMPARE(form_->clicks, 1);
-    // The window system's double click is two clicks to a button.
-    DoubleClick(*Widget<QPushButton>("cmdOK"));
-    QCOMPARE(form_->clicks, 3);
   }
 
   // A data list drops down its rows in columns under their headings, read from the model; a
@@ -229,7 +212,6 @@ class ViewInputTest : public QObject {
     auto* table = qobject_cast<QTableView*>(list->view());
     QVERIFY(table != nullptr);
     QCOMPARE(table->model()->rowCount(), 3);
-    QCOMPARE(table->model()->index(1, 0).data().toString(), QString("France"));
     QCOMPARE(table->model()->headerData(1, Qt::Horizontal).toString(), QString("Code"));
     list->hidePopup();
     emit list->activated(2);
@@ -250,28 +232,6 @@ class ViewInputTest : public QObject {
     Ctl("txtSecret").SetVisible(false);
     QVERIFY(!Widget<QLineEdit>("txtSecret")->isVisible());
     QVERIFY(HasFocus("chkTick"));
-  }
-
-  // Each widget shows its control's colours in every state it is drawn in, whether its palette is
-  // its own or its container's; a container's later colour does not reach the controls inside
-  // it that had the same colour until then; disabled, a control keeps its own colours.
-  void eachWidgetKeepsItsOwnColours() {
-    constexpr uint32_t kRed = 0x0000FF;
-    const auto shows = [this](std::string_view name, QPalette::ColorRole role, uint32_t colour) {
-      QWidget* widget = Window().WidgetOf(name);
-      const QColor wanted = ToQColor(colour, QApplication::palette());
-      const QPalette::ColorGroup drawn =
-          widget->isEnabled() ? QPalette::Active : QPalette::Disabled;
-      return widget->palette().color(drawn, role) == wanted &&
-             widget->palette().color(QPalette::Inactive, role) == wanted;
-    };
-    Ctl("fraChoice").SetBackColor(kRed);
-    QVERIFY(shows("fraChoice", QPalette::Window, kRed));
-    QVERIFY(shows("optTwo", QPalette::Window, forms::colors::kButtonFace));
-    Ctl("txtPlain").SetForeColor(kRed);
-    Ctl("txtPlain").SetEnabled(false);
-    QVERIFY(shows("txtPlain", QPalette::Base, forms::colors::kWindowBackground));
-    QVERIFY(shows("txtPlain", QPalette::Text, kRed));
   }
 
   void aDestroyedHostParentTakesTheWindowAndAShowMakesANewOne() {
