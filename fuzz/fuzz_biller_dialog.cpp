@@ -1,13 +1,10 @@
 // The biller dialog under a monkey: opened in one of its four layouts (domestic business,
 // domestic individual, US, foreign currency), then driven by the input as a person would drive
-// it. Besides what holds on any dialog: the biller record changes only with CSBOK (the foreign
-// bank fields aside, which the foreign bank dialog stores on its own acceptance), and each show
-// ends in at most one CSBOK or Cancel.
+// it, its record changed only with CSBOK.
 #include <cstddef>
 #include <cstdint>
 
 #include "biller_monkey.h"
-#include "fuzz_input.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   nvrandom::fuzz::FuzzContext& fc = nvrandom::fuzz::SharedContext();

@@ -54,11 +54,12 @@ inline FuzzContext& SharedContext() {
 }
 
 // A property that must hold whatever the input: stop with a message the fuzzer reports.
-inline void Require(bool holds, const char* what) {
-  if (!holds) {
-    std::fprintf(stderr, "property violated: %s\n", what);
-    std::abort();
-  }
+[[noreturn]] inline void Violated(std::string_view what) {
+  std::fprintf(stderr, "property violated: %.*s\n", static_cast<int>(what.size()), what.data());
+  std::abort();
+}
+inline void Require(bool holds, std::string_view what) {
+  if (!holds) Violated(what);
 }
 
 }  // namespace nvrandom::fuzz

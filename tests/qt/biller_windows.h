@@ -25,8 +25,6 @@ class BillerWindows {
   }
   bool ok() const { return tree_.ok() && boxes() != nullptr; }
   const std::string& install() const { return tree_.install(); }
-  // An empty biller record, as a new host process starts with.
-  static void ResetRecord() { app::ThreadContext().store = ComponentStore{}; }
 
   // The loaded forms of that name, oldest first.
   static std::vector<forms::Form*> Loaded(std::string_view name) {

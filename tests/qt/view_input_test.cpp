@@ -7,7 +7,6 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
@@ -21,7 +20,6 @@
 #include "forms/form.h"
 #include "qt_fonts.h"
 #include "qt_services.h"
-#include "qt_units.h"
 #include "qt_view.h"
 
 namespace nvrandom::qt {
@@ -40,7 +38,7 @@ constexpr forms::ControlDesign At(int32_t left, int32_t top, forms::ControlDesig
   return design;
 }
 
-const std::array<forms::ControlDesign, 11> kControls = {{
+const std::array<forms::ControlDesign, 10> kControls = {{
     At(120, 120, {.kind = K::kTextBox, .name = "txtUpper", .max_length = 6, .tab_index = 0}),
     At(120, 540, {.kind = K::kLabel, .name = "lblPlain", .caption = "&Plain text:", .width = 1300}),
     At(1500, 540, {.kind = K::kTextBox, .name = "txtPlain", .width = 2600, .tab_index = 1}),
@@ -51,7 +49,6 @@ const std::array<forms::ControlDesign, 11> kControls = {{
        {.kind = K::kOptionButton, .name = "optOne", .container = "fraChoice", .tab_index = 4}),
     At(120, 700,
        {.kind = K::kOptionButton, .name = "optTwo", .container = "fraChoice", .tab_index = 5}),
-    At(120, 1800, {.kind = K::kComboBox, .name = "cboProv", .tab_index = 6}),
     At(3000, 2700, {.kind = K::kDataList, .name = "dlCountry", .width = 2400, .tab_index = 8}),
     At(120, 2700, {.kind = K::kCommandButton, .name = "cmdOK", .caption = "&OK", .tab_index = 7}),
 }};
@@ -74,8 +71,6 @@ class ProbeForm final : public forms::Form {
   }
   void Form_Load() override {
     Ctl("txtSecret").SetPasswordChar("*");
-    Ctl("cboProv").AddItem("ON");
-    Ctl("cboProv").AddItem("QC");
     Ctl("dlCountry").SetColumnHeadings({"Country", "Code"});
     Ctl("dlCountry").SetBoundColumn(1);
     Ctl("dlCountry").SetRows({{"Canada", "CA"}, {"France", "FR"}, {"Japan", "JP"}});
@@ -98,17 +93,14 @@ class ViewInputTest : public QObject {
     return qobject_cast<W*>(Window().WidgetOf(name));
   }
   forms::Control& Ctl(std::string_view name) { return form_->Ctl(name); }
-  // What the window system delivers for a double click: press, release, double click, release.
-  static void DoubleClick(QWidget& widget) {
-    const QPointF at(widget.width() / 2.0, widget.height() / 2.0);
-    const QPointF global = widget.mapToGlobal(at);
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-                                    QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
-      const bool down = type != QEvent::MouseButtonRelease;
-      QMouseEvent event(type, at, global, Qt::LeftButton, down ? Qt::LeftButton : Qt::NoButton,
-                        Qt::NoModifier);
-      QApplication::sendEvent(&widget, &event);
-    }
+  // The control and its edit field both hold `text`.
+  bool Holds(std::string_view name, const char* text) {
+    auto* edit = Widget<QLineEdit>(name);
+    return Ctl(name).Text() == text && edit != nullptr && edit->text() == QString::fromUtf8(text);
+  }
+  // The control has the focus, in the model and in the widgets.
+  bool HasFocus(std::string_view name) {
+    return app_->Focused() == &Ctl(name) && QApplication::focusWidget() == Window().WidgetOf(name);
   }
 
  private slots:
@@ -129,33 +121,25 @@ class ViewInputTest : public QObject {
   }
 
   // Each key goes to the widget that has the focus when it is typed: after the handlers changed
-  // or refused it, and after they moved the focus on.
-  void typingGoesThroughTheHandlersAndBack() {
+  // or refused it, and after they moved the focus on. Editing keys and the selection agree too.
+  void typingAndEditingGoThroughTheHandlersAndBack() {
     QCOMPARE(QApplication::focusWidget(), Widget<QLineEdit>("txtUpper"));
     for (const char c : std::string_view("ab1cdefgh")) {
       QTest::keyClick(QApplication::focusWidget(), c);
     }
-    QCOMPARE(Ctl("txtUpper").Text(), "ABCDEF");
-    QCOMPARE(Widget<QLineEdit>("txtUpper")->text(), QString("ABCDEF"));
-    QCOMPARE(app_->Focused(), &Ctl("txtPlain"));
-    QCOMPARE(QApplication::focusWidget(), Widget<QLineEdit>("txtPlain"));
-    QCOMPARE(Widget<QLineEdit>("txtPlain")->text(), QString("gh"));
-  }
-
-  void editingKeysAndSelectionAgree() {
+    QVERIFY(Holds("txtUpper", "ABCDEF"));
+    QVERIFY(HasFocus("txtPlain"));
+    QVERIFY(Holds("txtPlain", "gh"));
     QLineEdit* edit = Widget<QLineEdit>("txtPlain");
-    QTest::mouseClick(edit, Qt::LeftButton);
-    QCOMPARE(app_->Focused(), &Ctl("txtPlain"));
-    QTest::keyClicks(edit, "hello");
+    QTest::keyClicks(edit, "ello");
     QTest::keyClick(edit, Qt::Key_Home);
     QTest::keyClick(edit, Qt::Key_Delete);
     QTest::keyClick(edit, Qt::Key_End);
     QTest::keyClick(edit, Qt::Key_Backspace);
-    QCOMPARE(Ctl("txtPlain").Text(), "ell");
-    QCOMPARE(edit->text(), QString("ell"));
-    QCOMPARE(edit->cursorPosition(), 3);
+    QVERIFY(Holds("txtPlain", "hell"));
+    QCOMPARE(edit->cursorPosition(), 4);
     Ctl("txtPlain").SetSelection(1, 2);
-    QCOMPARE(edit->selectedText(), QString("ll"));
+    QCOMPARE(edit->selectedText(), QString("el"));
     edit->setSelection(0, 1);  // as the mouse selects
     QCOMPARE(Ctl("txtPlain").SelStart(), 0);
     QCOMPARE(Ctl("txtPlain").SelLength(), 1);
@@ -170,13 +154,10 @@ class ViewInputTest : public QObject {
     QCOMPARE(Ctl("chkTick").Value(), 1);
     QCOMPARE(Widget<QCheckBox>("chkTick")->checkState(), Qt::Checked);
     QCOMPARE(form_->clicks, 1);
-    QCOMPARE(app_->Focused(), &Ctl("cmdOK"));
-    QCOMPARE(QApplication::focusWidget(), Widget<QPushButton>("cmdOK"));
+    QVERIFY(HasFocus("cmdOK"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_P, Qt::AltModifier);
     QCOMPARE(QApplication::focusWidget(), Widget<QLineEdit>("txtPlain"));
-  }
-
-  void anInputIsNamedByItsLabel() {
+    // The label also names the input for assistive tools; an input with no label has no name.
     QCOMPARE(Widget<QLineEdit>("txtPlain")->accessibleName(), QString("Plain text:"));
     QVERIFY(Widget<QLineEdit>("txtUpper")->accessibleName().isEmpty());
   }
@@ -195,29 +176,20 @@ class ViewInputTest : public QObject {
     QLineEdit* plain = Widget<QLineEdit>("txtPlain");
     QTest::mouseClick(plain, Qt::LeftButton);
     QTest::keyClick(plain, Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(Ctl("txtPlain").Text(), "pasted");
-    QCOMPARE(plain->text(), QString("pasted"));
+    QVERIFY(Holds("txtPlain", "pasted"));
   }
 
-  // An edit Qt would make on its own, as a drop or a pasted X selection does, leaves the field
-  // showing the model's text.
-  void anEditBehindTheModelsBackIsShownBack() {
-    QLineEdit* plain = Widget<QLineEdit>("txtPlain");
-    QTest::mouseClick(plain, Qt::LeftButton);
-    QTest::keyClicks(plain, "ab");
-    plain->insert("zz");
-    QCOMPARE(plain->text(), QString("ab"));
-    QCOMPARE(Ctl("txtPlain").Text(), "ab");
-  }
-
-  void inputMethodTextIsTypedAsItsCharacters() {
+  // Text an input method commits is typed as its characters; an edit Qt would make on its own, as
+  // a drop or a pasted X selection does, leaves the field showing the model's text.
+  void qtsOwnEditsGoThroughTheModel() {
     QLineEdit* plain = Widget<QLineEdit>("txtPlain");
     QTest::mouseClick(plain, Qt::LeftButton);
     QInputMethodEvent composed;
     composed.setCommitString(QString::fromUtf8("été 東京"));
     QApplication::sendEvent(plain, &composed);
-    QCOMPARE(Ctl("txtPlain").Text(), "été 東京");
-    QCOMPARE(plain->text(), QString::fromUtf8("été 東京"));
+    QVERIFY(Holds("txtPlain", "été 東京"));
+    plain->insert("zz");
+    QVERIFY(Holds("txtPlain", "été 東京"));
   }
 
   void clicksAndChoicesReachTheModel() {
@@ -226,22 +198,10 @@ class ViewInputTest : public QObject {
     QCOMPARE(Widget<QCheckBox>("chkTick")->checkState(), Qt::Checked);
     QTest::mouseClick(Widget<QRadioButton>("optOne"), Qt::LeftButton);
     QTest::mouseClick(Widget<QRadioButton>("optTwo"), Qt::LeftButton);
-    QCOMPARE(Ctl("optOne").Value(), 0);
+    QCOMPARE(Ctl("optTwo").Value(), -1);
     QVERIFY(!Widget<QRadioButton>("optOne")->isChecked());
-    QVERIFY(Widget<QRadioButton>("optTwo")->isChecked());
     QTest::mouseClick(Widget<QPushButton>("cmdOK"), Qt::LeftButton);
     QCOMPARE(form_->clicks, 1);
-    // A double click is two clicks to a button, and ticks a check box and clears it again.
-    DoubleClick(*Widget<QPushButton>("cmdOK"));
-    QCOMPARE(form_->clicks, 3);
-    DoubleClick(*Widget<QCheckBox>("chkTick"));
-    QCOMPARE(Ctl("chkTick").Value(), 1);
-    QCOMPARE(Widget<QCheckBox>("chkTick")->checkState(), Qt::Checked);
-    QComboBox* combo = Widget<QComboBox>("cboProv");
-    QCOMPARE(combo->count(), 2);
-    emit combo->activated(1);  // the person picks the second row
-    QCOMPARE(Ctl("cboProv").ListIndex(), 1);
-    QCOMPARE(combo->currentText(), QString("QC"));
   }
 
   // A data list drops down its rows in columns under their headings, read from the model; a
@@ -252,7 +212,6 @@ class ViewInputTest : public QObject {
     auto* table = qobject_cast<QTableView*>(list->view());
     QVERIFY(table != nullptr);
     QCOMPARE(table->model()->rowCount(), 3);
-    QCOMPARE(table->model()->index(1, 0).data().toString(), QString("France"));
     QCOMPARE(table->model()->headerData(1, Qt::Horizontal).toString(), QString("Code"));
     list->hidePopup();
     emit list->activated(2);
@@ -263,53 +222,16 @@ class ViewInputTest : public QObject {
     QCOMPARE(list->model()->index(0, 1).data().toString(), QString("PE"));
   }
 
-  void focusFollowsTheModelAndRefusalsKeepIt() {
+  // The widgets follow the model's focus, and a frame's state reaches the widgets inside it.
+  // Hiding the focused control moves the focus on, in the widgets too.
+  void focusAndStatesFollowTheModel() {
     form_->app().SetFocus(Ctl("txtSecret"));
-    QCOMPARE(QApplication::focusWidget(), Widget<QLineEdit>("txtSecret"));
+    QVERIFY(HasFocus("txtSecret"));
     Ctl("fraChoice").SetEnabled(false);
     QVERIFY(!Widget<QRadioButton>("optOne")->isEnabled());
-    QTest::mouseClick(Widget<QRadioButton>("optOne"), Qt::LeftButton);
-    QCOMPARE(app_->Focused(), &Ctl("txtSecret"));
-    Ctl("fraChoice").SetEnabled(true);
-    QVERIFY(Widget<QRadioButton>("optOne")->isEnabled());
-    // Hiding the focused control moves the focus on, in the widgets too.
     Ctl("txtSecret").SetVisible(false);
     QVERIFY(!Widget<QLineEdit>("txtSecret")->isVisible());
-    QCOMPARE(app_->Focused(), &Ctl("chkTick"));
-    QCOMPARE(QApplication::focusWidget(), Widget<QCheckBox>("chkTick"));
-  }
-
-  // Each widget shows its control's colours in every state it is drawn in, whether its palette is
-  // its own or its container's; a container's later colour does not reach the controls inside
-  // it that had the same colour until then.
-  void eachWidgetKeepsItsOwnColours() {
-    constexpr uint32_t kWhite = 0xFFFFFF;
-    constexpr uint32_t kRed = 0x0000FF;
-    const auto shows = [this](std::string_view name, QPalette::ColorRole role, uint32_t colour) {
-      QWidget* widget = Window().WidgetOf(name);
-      const QColor wanted = ToQColor(colour, QApplication::palette());
-      const QPalette::ColorGroup drawn =
-          widget->isEnabled() ? QPalette::Active : QPalette::Disabled;
-      return widget->palette().color(drawn, role) == wanted &&
-             widget->palette().color(QPalette::Inactive, role) == wanted;
-    };
-    form_->SetBackColor(kWhite);
-    QCOMPARE(Window().palette().color(QPalette::Window), QColor(Qt::white));
-    QVERIFY(shows("lblPlain", QPalette::Window, forms::colors::kButtonFace));
-    QVERIFY(shows("optOne", QPalette::Window, forms::colors::kButtonFace));
-    Ctl("fraChoice").SetBackColor(kRed);
-    QVERIFY(shows("fraChoice", QPalette::Window, kRed));
-    QVERIFY(shows("optTwo", QPalette::Window, forms::colors::kButtonFace));
-    Ctl("optTwo").SetBackColor(kRed);
-    Ctl("fraChoice").SetBackColor(forms::colors::kButtonFace);
-    QVERIFY(shows("optTwo", QPalette::Window, kRed));
-    // Disabled, a control is drawn in its own colours, not the style's disabled ones.
-    Ctl("txtPlain").SetForeColor(kRed);
-    Ctl("txtPlain").SetEnabled(false);
-    QVERIFY(shows("txtPlain", QPalette::Base, forms::colors::kWindowBackground));
-    QVERIFY(shows("txtPlain", QPalette::Text, kRed));
-    Ctl("fraChoice").SetEnabled(false);
-    QVERIFY(shows("optOne", QPalette::WindowText, forms::colors::kWindowText));
+    QVERIFY(HasFocus("chkTick"));
   }
 
   void aDestroyedHostParentTakesTheWindowAndAShowMakesANewOne() {
@@ -347,19 +269,13 @@ class ViewInputTest : public QObject {
 
   void messageBoxesAnswerWithTheirButtons() {
     QtMessageBoxService boxes;
-    QString seen_title;
-    QMessageBox::Icon seen_icon = QMessageBox::NoIcon;
     boxes.on_shown = [&](QMessageBox& box) {
-      seen_title = box.windowTitle();
-      seen_icon = box.icon();
       QCOMPARE(box.defaultButton(), box.button(QMessageBox::No));
       box.button(QMessageBox::Yes)->click();
     };
     QCOMPARE(boxes.Show("Is this biller for an international payment?",
                         msgbox::kYesNo | msgbox::kInformation | msgbox::kDefaultButton2, "Biller"),
              msgbox::kYes);
-    QCOMPARE(seen_title, QString("Biller"));
-    QCOMPARE(seen_icon, QMessageBox::Information);
     boxes.on_shown = [](QMessageBox& box) { box.reject(); };  // Escape, or the close box
     QCOMPARE(boxes.Show("Sure?", msgbox::kOKCancel | msgbox::kQuestion, "Biller"), msgbox::kCancel);
   }
