@@ -20,6 +20,7 @@
 #include "forms/form.h"
 #include "qt_fonts.h"
 #include "qt_services.h"
+#include "qt_units.h"
 #include "qt_view.h"
 
 namespace nvrandom::qt {
@@ -232,6 +233,37 @@ class ViewInputTest : public QObject {
     Ctl("txtSecret").SetVisible(false);
     QVERIFY(!Widget<QLineEdit>("txtSecret")->isVisible());
     QVERIFY(HasFocus("chkTick"));
+  }
+
+  // Each widget shows its control's colours in every state it is drawn in, whether its palette is
+  // its own or its container's; a container's later colour does not reach the controls inside
+  // it that had the same colour until then.
+  void eachWidgetKeepsItsOwnColours() {
+    constexpr uint32_t kWhite = 0xFFFFFF;
+    constexpr uint32_t kRed = 0x0000FF;
+    const auto shows = [this](std::string_view name, QPalette::ColorRole role, uint32_t colour) {
+      QWidget* widget = Window().WidgetOf(name);
+      const QColor wanted = ToQColor(colour, QApplication::palette());
+      const QPalette::ColorGroup drawn =
+          widget->isEnabled() ? QPalette::Active : QPalette::Disabled;
+      return widget->palette().color(drawn, role) == wanted &&
+             widget->palette().color(QPalette::Inactive, role) == wanted;
+    };
+    form_->SetBackColor(kWhite);
+    QCOMPARE(Window().palette().color(QPalette::Window), QColor(Qt::white));
+    QVERIFY(shows("lblPlain", QPalette::Window, forms::colors::kButtonFace));
+    Ctl("fraChoice").SetBackColor(kRed);
+    QVERIFY(shows("optTwo", QPalette::Window, forms::colors::kButtonFace));
+    Ctl("optTwo").SetBackColor(kRed);
+    Ctl("fraChoice").SetBackColor(forms::colors::kButtonFace);
+    QVERIFY(shows("optTwo", QPalette::Window, kRed));
+    // Disabled, a control is drawn in its own colours, not the style's disabled ones.
+    Ctl("txtPlain").SetForeColor(kRed);
+    Ctl("txtPlain").SetEnabled(false);
+    QVERIFY(shows("txtPlain", QPalette::Base, forms::colors::kWindowBackground));
+    QVERIFY(shows("txtPlain", QPalette::Text, kRed));
+    Ctl("fraChoice").SetEnabled(false);
+    QVERIFY(shows("optOne", QPalette::WindowText, forms::colors::kWindowText));
   }
 
   void aDestroyedHostParentTakesTheWindowAndAShowMakesANewOne() {
