@@ -151,13 +151,27 @@ TEST_F(DialogClient, AltWithAnUnderlinedLetterPressesItsControl) {
   EXPECT_NE(::GetFocus(), street);
 }
 
-TEST_F(DialogClient, DataListsDropDownATableOfTheirRows) {
+std::wstring Heading(HWND list, int column) {
+  wchar_t text[64] = {};
+  LVCOLUMNW info{};
+  info.mask = LVCF_TEXT;
+  info.pszText = text;
+  info.cchTextMax = 64;
+  ::SendMessageW(list, LVM_GETCOLUMNW, static_cast<WPARAM>(column),
+                 reinterpret_cast<LPARAM>(&info));
+  return text;
+}
+
+TEST_F(DialogClient, DataListsDropDownATableUnderTheirColumnHeadings) {
   const HWND country = FindControl(Show("business"), L"CA");
   ASSERT_NE(country, nullptr);
   ::SendMessageW(country, WM_LBUTTONDOWN, MK_LBUTTON, 0);
   const HWND popup = ::FindWindowW(L"NVRandomDropDown", nullptr);
   ASSERT_TRUE(popup != nullptr && ::IsWindowVisible(popup));
   const HWND table = ::GetWindow(popup, GW_CHILD);
+  EXPECT_EQ(Heading(table, 0), L"Country");
+  EXPECT_EQ(Heading(table, 1), L"Code");
+  EXPECT_EQ(Heading(table, 2), L"Phone");
 
   // Enter on a row chooses it: the box shows the row's code, the model's choice. End goes to the
   // last row of the installation's country file.
