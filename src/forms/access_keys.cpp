@@ -38,15 +38,16 @@ Control* TargetOf(Control& marked) {
   return first;
 }
 
-// A target's place in tab order; a label or frame stands where its target does.
-int TabPosition(Control& marked) {
-  const Control* target = TargetOf(marked);
-  return target != nullptr ? target->TabIndex() : -1;
-}
+// A control whose caption marks the key, and where the key leads from it.
+struct Answer {
+  Control* marked;
+  Control* target;
+};
 
-// The controls that answer Alt with `key_code` now, in tab order.
-std::vector<Control*> Answering(const Control& focused, int16_t key_code) {
-  std::vector<Control*> marked;
+// The controls that answer Alt with `key_code` now, in tab order: a label or frame stands where
+// its target does.
+std::vector<Answer> Answering(const Control& focused, int16_t key_code) {
+  std::vector<Answer> marked;
   if (key_code <= ' ' || key_code >= 127) return marked;
   const char key = ascii::ToUpper(static_cast<char>(key_code));
   if (!ascii::IsUpper(key) && !ascii::IsDigit(key)) return marked;
@@ -55,13 +56,14 @@ std::vector<Control*> Answering(const Control& focused, int16_t key_code) {
     if (IsTextKind(c->kind()) || AccessKeyOf(c->Caption()) != key || !app.TakesInput(*c)) {
       continue;
     }
-    const Control* target = TargetOf(*c);
+    Control* target = TargetOf(*c);
     if (target != nullptr && (target == c.get() || Application::Available(*target))) {
-      marked.push_back(c.get());
+      marked.push_back({c.get(), target});
     }
   }
-  std::stable_sort(marked.begin(), marked.end(),
-                   [](Control* a, Control* b) { return TabPosition(*a) < TabPosition(*b); });
+  std::stable_sort(marked.begin(), marked.end(), [](const Answer& a, const Answer& b) {
+    return a.target->TabIndex() < b.target->TabIndex();
+  });
   return marked;
 }
 
@@ -92,14 +94,15 @@ const Control* LabelOf(const Control& input) {
 }
 
 bool PressAccessKey(Control& focused, int16_t key_code) {
-  const std::vector<Control*> marked = Answering(focused, key_code);
+  const std::vector<Answer> marked = Answering(focused, key_code);
   if (marked.empty()) return false;
   // The first after the focus in tab order, wrapping round.
-  const auto after = std::find_if(marked.begin(), marked.end(),
-                                  [&](Control* c) { return TabPosition(*c) > focused.TabIndex(); });
-  Control& chosen = after != marked.end() ? **after : *marked.front();
-  Control& target = *TargetOf(chosen);
-  if (&target != &chosen || marked.size() > 1) {
+  const auto after = std::find_if(marked.begin(), marked.end(), [&](const Answer& a) {
+    return a.target->TabIndex() > focused.TabIndex();
+  });
+  const Answer& chosen = after != marked.end() ? *after : marked.front();
+  Control& target = *chosen.target;
+  if (&target != chosen.marked || marked.size() > 1) {
     if (target.CanFocus()) user::Focus(target);
     return true;
   }
